@@ -1,0 +1,95 @@
+#include "reports/frmTutteStampe.h"
+
+#include "reports/impegno.h"
+#include "screens/date_entry.h"
+#include "screens/failure_words.h"
+#include "storage/codepage.h"
+
+namespace vorbano {
+
+frmTutteStampe::frmTutteStampe(const Workplace& workplace) : desk_(workplace) {
+    mnuEsci.clicked.calls(this, &frmTutteStampe::mnuEsci_Click);
+    Combo1.clicked.calls(this, &frmTutteStampe::Combo1_Click);
+    Combo4.clicked.calls(this, &frmTutteStampe::Combo4_Click);
+    makeDateField(txtDataEle, desk_.desktop);
+    cmdAnteprima.clicked.calls(this, &frmTutteStampe::cmdAnteprima_Click);
+    cmdRiavvia.clicked.calls(this, &frmTutteStampe::cmdRiavvia_Click);
+    for (CheckBox* box : periodBoxes_) {
+        box->clicked.calls([this, box] { onlyPeriod(*box); });
+    }
+    cmdImpegno.clicked.calls(this, &frmTutteStampe::cmdImpegno_Click);
+    for (CheckBox* box : stationBoxes_) box->visible = false;
+    asAtLoad();
+}
+
+void frmTutteStampe::asAtLoad() {
+    for (CheckBox* box : periodBoxes_) {
+        box->checked = false;
+        box->enabled = false;
+    }
+    Check9.visible = false;
+    Check10.visible = false;
+    for (CheckBox* box : stationBoxes_) {
+        box->checked = false;
+        box->enabled = false;
+    }
+    cmdImpegno.enabled = false;
+    for (HiddenLabel* caption :
+         {&lblElezione, &lbldata, &lblAggio, &Label7, &Label8, &Label9, &Label10, &Label11, &Label12, &Label13}) {
+        caption->text = std::string();
+    }
+    Combo1.enabled = true;
+    Combo4.enabled = true;
+    txtDataEle.enabled = true;
+    cmdAnteprima.enabled = true;
+    cmdRiavvia.enabled = false;
+    TipoElezioni();
+    Combo4.clear();
+    txtDataEle.text = std::string();
+}
+
+void frmTutteStampe::TipoElezioni() {
+    Combo1.clear();
+    Combo1.items = vorbano::TipoElezioni(desk_.files);
+}
+
+void frmTutteStampe::Elezioni() { Combo4.items = DataEle(desk_.files, Combo1.text()); }
+
+void frmTutteStampe::Combo1_Click() {
+    Combo4.clear();
+    Elezioni();
+    lblElezione.text = electionCaption(Combo1.text());
+}
+
+void frmTutteStampe::Combo4_Click() {
+    txtDataEle.text = std::string(trim(Combo4.text()));
+    const auto caption = dateCaption(Combo4.text());
+    if (!caption) return;
+    lbldata.text = *caption;
+    lblAggio.text = std::string(editionCaption);
+}
+
+/// A period is chosen alone; none chosen counts as "Tutti".
+void frmTutteStampe::onlyPeriod(const CheckBox& ticked) {
+    if (!ticked.checked()) return;
+    for (CheckBox* box : periodBoxes_) {
+        if (box != &ticked) box->checked = false;
+    }
+}
+
+void frmTutteStampe::cmdRiavvia_Click() {
+    asAtLoad();
+    form.focus(Combo1);
+}
+
+void frmTutteStampe::cmdImpegno_Click() {
+    wellDone(printImpegno(desk_, election(), latePeriods(), heading()), desk_.desktop);
+}
+
+void frmTutteStampe::mnuEsci_Click() { form.close(); }
+
+Election frmTutteStampe::election() const {
+    return {std::string(trim(Combo1.text())), std::string(trim(txtDataEle.text()))};
+}
+
+}  // namespace vorbano
