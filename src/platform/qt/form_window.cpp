@@ -1,0 +1,248 @@
+#include "platform/qt/form_window.h"
+
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "platform/qt/form_table.h"
+#include "platform/qt/plain_window.h"
+#include "platform/qt/window_bars.h"
+#include "platform/qt/window_icons.h"
+#include "platform/qt/window_menu.h"
+
+namespace vorbano {
+
+FormWindow::FormWindow(Form& form, QWidget* above) : FormWindow(form, above, above ? Place::above : Place::first) {}
+
+FormWindow::FormWindow(Form& form, QWidget* parent, Place place)
+    : QDialog(parent), form_(form), operator_(form), place_(place) {
+    build();
+    layOut();
+    bind();
+    form_.watchedBy(this);
+    captionChanged();
+    bringAll();
+}
+
+FormWindow::~FormWindow() {
+    // Once it has closed, the form may be gone before its window, or be on show in another one.
+    if (attached_) form_.watchedBy(nullptr);
+}
+
+void FormWindow::build() {
+    if (place_ == Place::beside) {
+        setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
+    } else {
+        setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint |
+                       Qt::WindowCloseButtonHint);
+    }
+    if (!buildForm(form_.name(), *this)) buildPlainWindow(form_, *this);
+    setObjectName(shown(form_.name()));
+    menu_ = std::make_unique<WindowMenu>(
+        form_, *this, [this](Control& control, const Gesture& gesture) { act(control, gesture); });
+    bars_ = std::make_unique<WindowBars>(form_, *this);
+    for (QPushButton* button : findChildren<QPushButton*>()) {
+        const QString name = button->property("iconName").toString();
+        if (!name.isEmpty()) button->setIcon(drawnIcon(name));
+    }
+}
+
+/// What the .ui laid into the window moves into an area that scrolls where the screen is too small for it.
+void FormWindow::layOut() {
+    scroll_ = new QScrollArea(this);
+    scroll_->setObjectName(QStringLiteral("scrollArea"));
+    scroll_->setFrameShape(QFrame::NoFrame);
+    scroll_->setWidgetResizable(true);
+    scroll_->setFocusPolicy(Qt::NoFocus);
+    content_ = new QWidget;
+    content_->setObjectName(QStringLiteral("content"));
+    if (QLayout* designed = layout()) content_->setLayout(designed);
+    scroll_->setWidget(content_);
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(scroll_);
+    if (menu_->bar() != nullptr) whole->setMenuBar(menu_->bar());
+}
+
+QWidget* FormWindow::widgetOf(const Control& control) const {
+    const auto at = widgets_.find(&control);
+    return at == widgets_.end() ? nullptr : at->second;
+}
+
+QAction* FormWindow::actionOf(const Control& control) const { return menu_->actionOf(control); }
+
+QTimer* FormWindow::timerOf(const Control& control) const {
+    const auto at = timers_.find(&control);
+    return at == timers_.end() ? nullptr : at->second;
+}
+
+Spot FormWindow::spotOf(const Control& control, int line, int column) {
+    settle();
+    const WidgetBinding* binding = bindingOf(control.kind());
+    QWidget* widget = widgetOf(control);
+    if (widget == nullptr || binding->spot == nullptr) return {};
+    return binding->spot(*widget, line, column);
+}
+
+QSize FormWindow::sizeHint() const {
+    QSize wanted = content_->sizeHint().expandedTo(content_->minimumSizeHint());
+    if (const QMenuBar* bar = menu_->bar()) {
+        wanted.rheight() += bar->sizeHint().height();
+        wanted.setWidth(std::max(wanted.width(), bar->sizeHint().width()));
+    }
+    return wanted;
+}
+
+QSize FormWindow::minimumSizeHint() const { return {320, 160}; }
+
+// From the form to the window
+
+void FormWindow::bringStanding(Control& control) {
+    QWidget* widget = widgetOf(control);
+    if (widget == nullptr) return;
+    widget->setEnabled(control.isEnabled());
+    widget->setVisible(isMeantToShow(control));
+}
+
+void FormWindow::bring(Control& control) {
+    QWidget* widget = widgetOf(control);
+    if (widget == nullptr) return;
+    const WidgetBinding* binding = bindingOf(control.kind());
+    if (binding->bring != nullptr) binding->bring(control, *widget);
+}
+
+void FormWindow::bringAll() {
+    for (Control* control : form_.controls()) {
+        bringStanding(*control);
+        const WidgetBinding* binding = bindingOf(control->kind());
+        if (binding != nullptr && binding->bringContent != nullptr) pending_.insert(control);
+        bring(*control);
+        bringTimer(*control);
+    }
+    settle();
+    for (QLabel* caption : findChildren<QLabel*>()) bringCaption(*caption);
+}
+
+void FormWindow::settle() {
+    const std::set<Control*> changed = std::exchange(pending_, {});
+    for (Control* control : changed) {
+        if (QWidget* widget = widgetOf(*control)) bindingOf(control->kind())->bringContent(*control, *widget);
+        bring(*control);
+    }
+}
+
+void FormWindow::controlChanged(Control& control, Aspect aspect) {
+    ++changing_;
+    bringAspect(control, aspect);
+    --changing_;
+}
+
+void FormWindow::bringAspect(Control& control, Aspect aspect) {
+    switch (aspect) {
+        case Aspect::items:
+        case Aspect::cells:
+            if (pending_.empty()) QMetaObject::invokeMethod(this, &FormWindow::settle, Qt::QueuedConnection);
+            pending_.insert(&control);
+            break;
+        case Aspect::enabled:
+        case Aspect::visible:
+            // What stands in a frame shows and works with it.
+            if (control.kind() == Kind::frame || control.kind() == Kind::tabPanel) {
+                for (Control* inside : form_.controls()) bringStanding(*inside);
+            } else {
+                bringStanding(control);
+            }
+            bars_->followAll();
+            for (QLabel* caption : findChildren<QLabel*>()) bringCaption(*caption);
+            break;
+        case Aspect::text:
+        case Aspect::locked:
+        case Aspect::checked:
+        case Aspect::selection:
+        case Aspect::tone:
+            // While lines are on their way, the choice among them is brought with them.
+            if (!pending_.contains(&control)) bring(control);
+            break;
+        case Aspect::interval:
+            break;
+    }
+    if (aspect == Aspect::text) bars_->follow(control);
+    if (control.kind() == Kind::menuEntry) menu_->bring();
+    if (control.kind() == Kind::timer) bringTimer(control);
+    if (control.kind() == Kind::label && aspect == Aspect::text) {
+        if (auto* label = qobject_cast<QLabel*>(widgetOf(control))) bringCaption(*label);
+    }
+}
+
+void FormWindow::captionChanged() { setWindowTitle(shown(form_.caption())); }
+
+void FormWindow::focusMoved() { followFocus(true); }
+
+void FormWindow::followFocus(bool select) {
+    if (following_) return;
+    following_ = true;
+    const Control* focused = form_.focused();
+    QWidget* widget = focused == nullptr ? nullptr : widgetOf(*focused);
+    if (widget == nullptr) {
+        if (QWidget* old = focusWidget()) old->clearFocus();
+    } else {
+        const WidgetBinding* binding = bindingOf(focused->kind());
+        QWidget* target = binding->focusPart == nullptr ? widget : binding->focusPart(*widget);
+        const bool moves = focusWidget() != target || (isActiveWindow() && !target->hasFocus());
+        // As with Tab, so that the ring of the focus is drawn on every kind of widget.
+        if (moves) target->setFocus(Qt::TabFocusReason);
+        scroll_->ensureWidgetVisible(target);
+        if (auto* line = qobject_cast<QLineEdit*>(widget); line != nullptr && (select || moves)) line->selectAll();
+    }
+    following_ = false;
+}
+
+void FormWindow::closed() {
+    form_.watchedBy(nullptr);
+    attached_ = false;
+    for (const auto& [control, timer] : timers_) timer->stop();
+    hide();
+    emit shut();
+}
+
+// From the operator to the form
+
+void FormWindow::act(Control& control, const Gesture& gesture) {
+    // What the form refuses has changed nothing there; bringing the control again takes it back in the window too.
+    (void)gesture(operator_);
+    if (!form_.isOpen()) return;
+    if (!pending_.empty()) settle();
+    bring(control);
+    followFocus(false);
+}
+
+void FormWindow::leave(Control& control, bool forward) {
+    act(control, [&](Operator& clerk) {
+        clerk.leave(forward);
+        return Refusal::none;
+    });
+}
+
+void FormWindow::closeByOperator() {
+    if (form_.isOpen()) operator_.close();
+}
+
+void FormWindow::reject() {
+    // The first window is the program itself; a stray Esc must not end it.
+    if (place_ != Place::first) closeByOperator();
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+    // The form closes, and hides the window with it.
+    event->ignore();
+    closeByOperator();
+}
+
+}  // namespace vorbano
