@@ -1,0 +1,28 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+
+#include "screens/workplace.h"
+
+namespace vorbano {
+
+/// The whole program over a disk, a desk and a print engine: the main window and every screen that it can open.
+class Program : public Screens {
+  public:
+    Program(FileSystem& files, Desktop& desktop, Database& staging, PrintEngine& printing);
+
+    /// Shows the main window until it closes.
+    void run();
+
+    [[nodiscard]] bool has(std::string_view name) const override;
+    void open(std::string_view name) override;
+
+  private:
+    Workplace workplace_;
+    /// Name of a screen, and what makes it and shows it until it closes.
+    std::map<std::string, std::function<void()>, std::less<>> screens_;
+};
+
+}  // namespace vorbano

@@ -1,0 +1,65 @@
+#include "scenario/out_folder.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+#include <vector>
+
+#include "scenario/looks.h"
+
+namespace vorbano {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string layFileOver(const fs::path& from, const std::string& to, FileSystem& files) {
+    std::ifstream source(from, std::ios::binary);
+    const std::string content{std::istreambuf_iterator<char>(source), std::istreambuf_iterator<char>()};
+    if (!source) return "a file that cannot be read: " + utf8(from);
+    const auto written = writeWhole(files, to, content);
+    return written ? std::string() : inWords(written.error());
+}
+
+}  // namespace
+
+fs::path pathOf(std::string_view text) { return std::u8string(text.begin(), text.end()); }
+
+std::string utf8(const fs::path& path) {
+    const std::u8string text = path.generic_u8string();
+    return {text.begin(), text.end()};
+}
+
+std::optional<fs::path> outFile(const std::string& name, const fs::path& out) {
+    // A backslash is no separator everywhere, but a scenario must mean the same everywhere.
+    const auto below = splitPath(name);
+    if (!below || name.find('\\') != std::string::npos || name.find(':') != std::string::npos) return std::nullopt;
+    fs::path path = out;
+    for (const std::string& one : *below) path /= pathOf(one);
+    std::error_code trouble;
+    fs::create_directories(path.parent_path(), trouble);
+    return path;
+}
+
+std::string layOver(const fs::path& folder, FileSystem& files) {
+    std::error_code trouble;
+    std::vector<fs::path> found;
+    for (fs::recursive_directory_iterator at(folder, trouble), end; !trouble && at != end; at.increment(trouble)) {
+        found.push_back(at->path());
+    }
+    if (trouble) return "a folder that cannot be read: " + utf8(folder);
+    // In the order of their names, so that a folder comes before what is in it and the result is the same everywhere.
+    std::sort(found.begin(), found.end());
+    for (const fs::path& one : found) {
+        const std::string to = utf8(one.lexically_relative(folder));
+        if (fs::is_directory(one, trouble)) {
+            if (const auto made = files.makeFolder(to); !made) return inWords(made.error());
+        } else if (std::string what = layFileOver(one, to, files); !what.empty()) {
+            return what;
+        }
+    }
+    return {};
+}
+
+}  // namespace vorbano

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "storage/file_system.h"
+
+namespace vorbano {
+
+/// UTF-8 to a path and back, on every system.
+[[nodiscard]] std::filesystem::path pathOf(std::string_view utf8);
+[[nodiscard]] std::string utf8(const std::filesystem::path& path);
+
+/// Where a file of that name goes below `out`; its folder is made. Nothing when the name would leave `out`.
+[[nodiscard]] std::optional<std::filesystem::path> outFile(const std::string& name, const std::filesystem::path& out);
+
+/// Lays a folder of this machine over the files of an installation, folder by folder, replacing what is there. What
+/// went wrong, in words, or "".
+[[nodiscard]] std::string layOver(const std::filesystem::path& folder, FileSystem& files);
+
+}  // namespace vorbano

@@ -1,0 +1,77 @@
+#include "scenario/theatre.h"
+
+#include <QTemporaryDir>
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <system_error>
+
+#include "platform/qt/installation.h"
+#include "platform/qt/report_renderer.h"
+#include "platform/qt/sqlite_database.h"
+#include "platform/staging_tables.h"
+#include "program/layouts.h"
+#include "program/program.h"
+#include "program/record_files.h"
+#include "scenario/out_folder.h"
+#include "scenario/window_play.h"
+#include "storage/disk_file_system.h"
+
+namespace vorbano {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::optional<std::string> contentOf(const fs::path& file) {
+    std::error_code trouble;
+    if (!fs::is_regular_file(file, trouble)) return std::nullopt;
+    std::ifstream source(file, std::ios::binary);
+    std::string content{std::istreambuf_iterator<char>(source), std::istreambuf_iterator<char>()};
+    if (!source) return std::nullopt;
+    return content;
+}
+
+std::string playIn(const fs::path& root, const Scenario& scenario, const Orders& orders, const fs::path& out) {
+    if (const auto laid = layInstallation(utf8(root)); !laid) {
+        return scenario.name + ":1: expected an installation in " + utf8(root) + ", was " + inWords(laid.error());
+    }
+    DiskFileSystem files(root);
+    SqliteDatabase staging(utf8(root / "Stampe" / "dbStampa.mdb"));
+    QtRenderer renderer(staging, layoutsOf(files));
+    const Stage stage{files, staging, recordFiles(), stagingTables(), out};
+    const Start start = [&](Desktop& desktop, PrintEngine& printing) {
+        Program(files, desktop, staging, printing).run();
+    };
+    if (!orders.window) return playBare(scenario, stage, renderer, start);
+    return playInWindows(scenario, stage, renderer, start, orders.watch ? Pace::slow : Pace::quick);
+}
+
+}  // namespace
+
+std::string playFile(const std::string& file, const Orders& orders, const fs::path& out) {
+    const auto text = contentOf(pathOf(file));
+    if (!text) return file + ":1: expected a scenario, was a file that cannot be read";
+    const Scenario scenario = readScenario(*text, file);
+    if (!scenario.errors.empty()) {
+        std::string told;
+        for (const std::string& error : scenario.errors) told += (told.empty() ? "" : "\n") + error;
+        return told;
+    }
+    if (!orders.root.empty()) return playIn(fs::absolute(pathOf(orders.root)), scenario, orders, out);
+    const FreshFolder root;
+    return playIn(root.path(), scenario, orders, out);
+}
+
+FreshFolder::FreshFolder() {
+    QTemporaryDir folder;
+    folder.setAutoRemove(false);
+    path_ = pathOf(folder.path().toStdString());
+}
+
+FreshFolder::~FreshFolder() {
+    std::error_code ignored;
+    fs::remove_all(path_, ignored);
+}
+
+}  // namespace vorbano
