@@ -59,7 +59,7 @@ int main(int argc, char** argv) {
     const bool unseen = !hasDisplay() || isUnseen(qgetenv("QT_QPA_PLATFORM"));
     if (orders->watch && unseen) return misused("--watch needs a display.\n");
     // The bare forms need no window, but documents are made all the same, and making them needs fonts.
-    if (!orders->window || !hasDisplay()) vorbano::useUnseenScreen();
+    if (!orders->window || unseen) vorbano::useUnseenScreen();
     vorbano::quietenUnseenScreen();
     QApplication application(argc, argv);
     vorbano::applyStyle(application);

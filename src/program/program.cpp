@@ -35,6 +35,12 @@ void Program::run() {
     workplace_.desktop.show(main->form);
 }
 
+std::vector<std::string> Program::names() const {
+    std::vector<std::string> names;
+    for (const auto& screen : screens_) names.push_back(screen.first);
+    return names;
+}
+
 bool Program::has(std::string_view name) const { return screens_.contains(name); }
 
 void Program::open(std::string_view name) {

@@ -3,6 +3,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "screens/workplace.h"
 
@@ -16,6 +17,8 @@ class Program : public Screens {
     /// Shows the main window until it closes.
     void run();
 
+    /// The screens that it can open.
+    [[nodiscard]] std::vector<std::string> names() const;
     [[nodiscard]] bool has(std::string_view name) const override;
     void open(std::string_view name) override;
 

@@ -10,6 +10,7 @@
 #include "platform/database.h"
 #include "platform/form.h"
 #include "scenario/scenario_reader.h"
+#include "scenario/surface.h"
 #include "storage/file_system.h"
 #include "storage/record_fields.h"
 
@@ -25,6 +26,8 @@ struct Stage {
     std::span<const TableInfo> tables;
     /// Where pictures and documents go.
     std::filesystem::path out;
+    /// Told what the scenario meets; nullptr when nobody asks.
+    Surface* surface = nullptr;
 };
 
 /// A line that does not hold.

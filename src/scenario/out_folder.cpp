@@ -1,8 +1,8 @@
 #include "scenario/out_folder.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <fstream>
-#include <iterator>
 #include <system_error>
 #include <vector>
 
@@ -15,10 +15,9 @@ namespace {
 namespace fs = std::filesystem;
 
 std::string layFileOver(const fs::path& from, const std::string& to, FileSystem& files) {
-    std::ifstream source(from, std::ios::binary);
-    const std::string content{std::istreambuf_iterator<char>(source), std::istreambuf_iterator<char>()};
-    if (!source) return "a file that cannot be read: " + utf8(from);
-    const auto written = writeWhole(files, to, content);
+    const auto content = contentOfFile(from);
+    if (!content) return "a file that cannot be read: " + utf8(from);
+    const auto written = writeWhole(files, to, *content);
     return written ? std::string() : inWords(written.error());
 }
 
@@ -29,6 +28,18 @@ fs::path pathOf(std::string_view text) { return std::u8string(text.begin(), text
 std::string utf8(const fs::path& path) {
     const std::u8string text = path.generic_u8string();
     return {text.begin(), text.end()};
+}
+
+std::optional<std::string> contentOfFile(const fs::path& file) {
+    std::error_code trouble;
+    if (!fs::is_regular_file(file, trouble)) return std::nullopt;
+    const auto size = fs::file_size(file, trouble);
+    std::ifstream source(file, std::ios::binary);
+    if (trouble || !source) return std::nullopt;
+    std::string content(size, '\0');
+    source.read(content.data(), static_cast<std::streamsize>(size));
+    if (static_cast<std::uintmax_t>(source.gcount()) != size) return std::nullopt;
+    return content;
 }
 
 std::optional<fs::path> outFile(const std::string& name, const fs::path& out) {

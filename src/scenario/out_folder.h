@@ -13,6 +13,9 @@ namespace vorbano {
 [[nodiscard]] std::filesystem::path pathOf(std::string_view utf8);
 [[nodiscard]] std::string utf8(const std::filesystem::path& path);
 
+/// The bytes of a file of this machine; nothing when it is none or cannot be read.
+[[nodiscard]] std::optional<std::string> contentOfFile(const std::filesystem::path& file);
+
 /// Where a file of that name goes below `out`; its folder is made. Nothing when the name would leave `out`.
 [[nodiscard]] std::optional<std::filesystem::path> outFile(const std::string& name, const std::filesystem::path& out);
 

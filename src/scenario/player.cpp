@@ -24,6 +24,10 @@ Player::Player(const Scenario& scenario, const Stage& stage, Hands& hands)
 
 const Line* Player::line() const { return at_ < scenario_.lines.size() ? &scenario_.lines[at_] : nullptr; }
 
+void Player::met(std::string_view kind, std::string_view what) const {
+    if (stage_.surface != nullptr) stage_.surface->met(kind, what);
+}
+
 void Player::prepare() {
     while (!over_ && line() != nullptr && isInstalledBefore(*line())) playWorld(*line());
 }
@@ -93,6 +97,8 @@ std::optional<Answer> Player::stepAtBox(const Box& box) {
              box.question ? "a box with Sì and No" : "a box with OK");
         return std::nullopt;
     }
+    met("box", box.title);
+    met("box", box.text);
     advance();
     return current->answer;
 }
@@ -115,6 +121,8 @@ bool Player::stepAtReport(const PrintJob& job, Document& document) {
                 return true;
             }
             inReport_ = true;
+            met("layout", job.layout);
+            met("box", job.title);
             advance();
             return false;
         }
@@ -190,6 +198,7 @@ bool Player::playLook(const Line& line) {
         case LineKind::file:
         case LineKind::bytes:
         case LineKind::record:
+            met("file", line.name);
             return settle(lookAtFile(line, stage_));
         case LineKind::screenshot:
             playScreenshot(line);
@@ -229,6 +238,8 @@ void Player::playExpect(const Line& line) {
     const Control* control = line.kind == LineKind::expectCaption ? nullptr : form->find(line.name);
     const std::string seen = control == nullptr ? std::string() : hands_.seenOtherwise(line, *form, *control);
     if (!seen.empty()) return failAt("so in the form only: " + seen);
+    met("screen", form->name());
+    if (line.kind == LineKind::expectText) met("text", line.text);
     advance();
 }
 
@@ -243,6 +254,8 @@ void Player::playGesture(const Line& line) {
             return failAt("refused: " + line.name + " " + std::string(inWords(why)));
         }
     }
+    met("screen", form->name());
+    if (control != nullptr) met("control", form->name() + "." + control->name());
     // What the gesture brings about is played inside it, so the next line is in turn before the hands move.
     advance();
     const std::string inTheWay = hands_.make(line, *form, control);

@@ -72,6 +72,7 @@ class Player {
   private:
     void failAtLine(const Line& line, const std::string& expected, const std::string& was);
     void advance() { ++at_; }
+    void met(std::string_view kind, std::string_view what) const;
     bool settle(const Verdict& verdict);
     bool playWorld(const Line& line);
     bool playLook(const Line& line);

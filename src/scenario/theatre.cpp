@@ -1,9 +1,7 @@
 #include "scenario/theatre.h"
 
 #include <QTemporaryDir>
-#include <fstream>
-#include <iterator>
-#include <optional>
+#include <cstdlib>
 #include <system_error>
 
 #include "platform/qt/installation.h"
@@ -23,15 +21,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::optional<std::string> contentOf(const fs::path& file) {
-    std::error_code trouble;
-    if (!fs::is_regular_file(file, trouble)) return std::nullopt;
-    std::ifstream source(file, std::ios::binary);
-    std::string content{std::istreambuf_iterator<char>(source), std::istreambuf_iterator<char>()};
-    if (!source) return std::nullopt;
-    return content;
-}
-
 std::string playIn(const fs::path& root, const Scenario& scenario, const Orders& orders, const fs::path& out) {
     if (const auto laid = layInstallation(utf8(root)); !laid) {
         return scenario.name + ":1: expected an installation in " + utf8(root) + ", was " + inWords(laid.error());
@@ -39,7 +28,9 @@ std::string playIn(const fs::path& root, const Scenario& scenario, const Orders&
     DiskFileSystem files(root);
     SqliteDatabase staging(utf8(root / "Stampe" / "dbStampa.mdb"));
     QtRenderer renderer(staging, layoutsOf(files));
-    const Stage stage{files, staging, recordFiles(), stagingTables(), out};
+    const char* surfaceFile = std::getenv("VORBANO_SURFACE");
+    Surface surface(surfaceFile == nullptr ? fs::path() : pathOf(surfaceFile));
+    const Stage stage{files, staging, recordFiles(), stagingTables(), out, &surface};
     const Start start = [&](Desktop& desktop, PrintEngine& printing) {
         Program(files, desktop, staging, printing).run();
     };
@@ -50,7 +41,7 @@ std::string playIn(const fs::path& root, const Scenario& scenario, const Orders&
 }  // namespace
 
 std::string playFile(const std::string& file, const Orders& orders, const fs::path& out) {
-    const auto text = contentOf(pathOf(file));
+    const auto text = contentOfFile(pathOf(file));
     if (!text) return file + ":1: expected a scenario, was a file that cannot be read";
     const Scenario scenario = readScenario(*text, file);
     if (!scenario.errors.empty()) {

@@ -5,7 +5,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QProgressDialog>
-#include <QTimer>
+#include <QTimerEvent>
 
 #include "platform/qt/form_window.h"
 #include "platform/qt/preview_window.h"
@@ -91,8 +91,12 @@ class Steps : public QObject {
     static constexpr std::chrono::milliseconds slowPause{500};
     static constexpr std::chrono::milliseconds shortWait{1};
 
-    void schedule(std::chrono::milliseconds pause) {
-        QTimer::singleShot(pause, this, [this] { step(); });
+    void schedule(std::chrono::milliseconds pause) { startTimer(pause); }
+
+    /// Each timer fires once; one that fired again would not do so inside its own event.
+    void timerEvent(QTimerEvent* event) override {
+        killTimer(event->timerId());
+        step();
     }
 
     void step() {

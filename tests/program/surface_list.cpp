@@ -1,0 +1,244 @@
+#include "surface_list.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+
+#include "platform/memory_database.h"
+#include "platform/scripted_desktop.h"
+#include "platform/staging_tables.h"
+#include "program/program.h"
+#include "program/record_files.h"
+#include "storage/memory_file_system.h"
+
+namespace vorbano::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+bool gesturedProcedure(const Control& control) {
+    const bool focus = control.gotFocus.hasProcedure() || control.lostFocus.hasProcedure();
+    switch (control.kind()) {
+        case Kind::textBox:
+            return focus || static_cast<const TextBox&>(control).change.hasProcedure();
+        case Kind::button:
+            return focus || static_cast<const Button&>(control).clicked.hasProcedure();
+        case Kind::checkBox:
+            return focus || static_cast<const CheckBox&>(control).clicked.hasProcedure();
+        case Kind::option:
+            return focus || static_cast<const Option&>(control).clicked.hasProcedure();
+        case Kind::comboBox:
+        case Kind::listBox:
+            return focus || static_cast<const ItemControl&>(control).clicked.hasProcedure();
+        case Kind::grid:
+            return focus || static_cast<const Grid&>(control).picked.hasProcedure();
+        case Kind::frame:
+            return static_cast<const Frame&>(control).pressed.hasProcedure() ||
+                   static_cast<const Frame&>(control).moved.hasProcedure();
+        case Kind::tabPanel:
+            return focus || static_cast<const TabPanel&>(control).turned.hasProcedure();
+        case Kind::menuEntry:
+            return static_cast<const MenuEntry&>(control).clicked.hasProcedure();
+        case Kind::label:
+        case Kind::timer:
+            return false;
+    }
+    return false;
+}
+
+/// A control that only shows can have a procedure and never be gestured at: what is locked from the start and by no
+/// procedure opened. Such fields are named here, with the reason.
+const std::set<std::string>& onlyShown() {
+    static const std::set<std::string> names = {
+        "frmCompStraord.txtMoUtil",  // the hours used come from the files
+        "frmCompStraord.txtGlobo",   // the pools are computed
+    };
+    return names;
+}
+
+/// A desk on which every form opens, is listed, and closes at once.
+class ListingDesktop : public Desktop {
+  public:
+    explicit ListingDesktop(SurfaceList& list) : list_(list) {}
+
+    void show(Form& form) override { see(form); }
+    void showBeside(Form& form) override { see(form); }
+    void tell(const Message&) override {}
+    bool ask(const Message&) override { return false; }
+    [[nodiscard]] std::chrono::year_month_day today() const override { return {}; }
+
+  private:
+    void see(Form& form) {
+        list_.screens.insert(form.name());
+        for (const Control* control : form.controls()) {
+            const bool hidden =
+                control->kind() == Kind::menuEntry && !static_cast<const MenuEntry*>(control)->visible();
+            const std::string name = form.name() + "." + control->name();
+            if (control->hasWidget() && !hidden && gesturedProcedure(*control) && !onlyShown().contains(name)) {
+                list_.controls.insert(name);
+            }
+        }
+    }
+    SurfaceList& list_;
+};
+
+void listScreens(SurfaceList& list) {
+    MemoryFileSystem files;
+    files.makeFolder("Params").ignore();
+    MemoryDatabase staging(stagingTables());
+    RecordingPrintEngine printing;
+    ListingDesktop desktop(list);
+    Program program(files, desktop, staging, printing);
+    program.run();
+    for (const std::string& name : program.names()) program.open(name);
+}
+
+std::string contentOf(const fs::path& file) {
+    std::ifstream source(file, std::ios::binary);
+    std::string text;
+    for (char one = 0; source.get(one);) text += one;
+    return text;
+}
+
+/// Folders whose sources speak to the clerk.
+constexpr const char* speakingFolders[] = {"screens", "shell", "parameters", "overtime", "reports"};
+
+/// Said by the program and met by no scenario, each for a reason.
+const std::set<std::string>& provenElsewhere() {
+    static const std::set<std::string> texts = {
+        // Step five of the limits: the first step always comes before it; the text stands ready as the office wrote it.
+        "Le ore autorizzate superano non solo il limite medio mensile di ",
+        " ore, ma anche il limite del monte ore mensile delle",
+        // Failures of the disk, of databases and of layouts: a scenario's disk does not fail. The fault tests show
+        // them.
+        "Manca il file ",
+        "Manca la cartella del file ",
+        "Il file ",
+        " non può essere letto o scritto: controllare che non sia di sola lettura.",
+        "Il disco non ha completato l'operazione sul file ",
+        "Il nome ",
+        " non è valido.",
+        " non è nel formato di questa versione del programma.",
+        " contiene già il numero massimo di record.",
+        " I documenti non possono essere stampati.",
+    };
+    return texts;
+}
+
+void listTexts(SurfaceList& list, const fs::path& sources) {
+    for (const char* folder : speakingFolders) {
+        for (const auto& entry : fs::directory_iterator(sources / "src" / folder)) {
+            if (entry.path().extension() != ".cpp") continue;
+            for (std::string& text : wordsIn(contentOf(entry.path()))) {
+                if (!provenElsewhere().contains(text)) list.texts.insert(std::move(text));
+            }
+        }
+    }
+}
+
+/// Reads one literal that begins at `at` (on its quote); `at` is then behind it.
+std::string literalAt(const std::string& source, std::size_t& at) {
+    std::string text;
+    for (++at; at < source.size() && source[at] != '"'; ++at) {
+        if (source[at] != '\\') {
+            text += source[at];
+            continue;
+        }
+        ++at;
+        text += source[at] == 'n' ? '\n' : source[at];
+    }
+    ++at;
+    return text;
+}
+
+/// Blanks, line ends and comments.
+std::size_t behindBlanks(const std::string& source, std::size_t at) {
+    while (at < source.size()) {
+        if (std::isspace(static_cast<unsigned char>(source[at])) != 0) {
+            ++at;
+        } else if (source.compare(at, 2, "//") == 0) {
+            at = std::min(source.find('\n', at), source.size());
+        } else {
+            break;
+        }
+    }
+    return at;
+}
+
+bool readsAsMessage(const std::string& text) {
+    const auto letter = [](unsigned char one) { return std::isalpha(one) != 0; };
+    const auto letters = std::count_if(text.begin(), text.end(), letter);
+    return letters >= 6 && text.find(' ') != std::string::npos && text.find(".h") == std::string::npos;
+}
+
+std::string onOneLine(const std::string& text) {
+    std::string line;
+    for (const char one : text) line += one == '\n' ? std::string("\\n") : std::string(1, one);
+    return line;
+}
+
+}  // namespace
+
+std::vector<std::string> wordsIn(const std::string& source) {
+    std::vector<std::string> found;
+    for (std::size_t at = 0; at < source.size();) {
+        if (source.compare(at, 2, "//") == 0) {
+            at = std::min(source.find('\n', at), source.size());
+        } else if (source[at] == '\'' && at + 2 < source.size()) {
+            at += source[at + 1] == '\\' ? 4 : 3;
+        } else if (source[at] == '"') {
+            std::string text;
+            for (; at < source.size() && source[at] == '"'; at = behindBlanks(source, at))
+                text += literalAt(source, at);
+            if (readsAsMessage(text)) found.push_back(std::move(text));
+        } else {
+            ++at;
+        }
+    }
+    return found;
+}
+
+SurfaceList listSurfaces(const fs::path& sources) {
+    SurfaceList list;
+    listScreens(list);
+    listTexts(list, sources);
+    for (const auto& entry : fs::directory_iterator(sources / "installation" / "Stampe")) {
+        if (entry.path().extension() == ".rpt") list.layouts.insert(entry.path().filename().string());
+    }
+    for (const RecordInfo& record : recordFiles()) list.files.insert(std::string(record.file));
+    return list;
+}
+
+std::vector<std::string> notMet(const SurfaceList& all, const std::vector<std::string>& notes) {
+    const std::set<std::string> met(notes.begin(), notes.end());
+    std::vector<std::string> missing;
+    const auto need = [&](const std::set<std::string>& names, const std::string& kind) {
+        for (const std::string& name : names) {
+            if (!met.contains(kind + " " + name)) missing.push_back(kind + " " + name);
+        }
+    };
+    need(all.screens, "screen");
+    need(all.controls, "control");
+    need(all.layouts, "layout");
+    const auto said = [&](const std::string& text) {
+        return std::any_of(notes.begin(), notes.end(), [&](const std::string& note) {
+            return (note.starts_with("box ") || note.starts_with("text ")) && note.find(text) != std::string::npos;
+        });
+    };
+    for (const std::string& text : all.texts) {
+        if (!said(onOneLine(text))) missing.push_back("text " + onOneLine(text));
+    }
+    const auto lookedInto = [&](const std::string& file) {
+        // The employee record file bears the date of its election.
+        const std::string end = file.starts_with('<') ? "-24.vbn" : "/" + file;
+        return std::any_of(notes.begin(), notes.end(),
+                           [&](const std::string& note) { return note.starts_with("file ") && note.ends_with(end); });
+    };
+    for (const std::string& file : all.files) {
+        if (!lookedInto(file)) missing.push_back("file " + file);
+    }
+    return missing;
+}
+
+}  // namespace vorbano::test
