@@ -1,0 +1,104 @@
+// How long the clerk waits: the first window of the program, beside an empty window of the toolkit in the same run, and
+// the largest screens.
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QTimer>
+#include <memory>
+
+#include "overtime/frmCompStraord.h"
+#include "parameters/frmParametri.h"
+#include "platform/memory_database.h"
+#include "platform/qt/qt_desktop.h"
+#include "platform/qt/style.h"
+#include "platform/scripted_desktop.h"
+#include "platform/staging_tables.h"
+#include "program/program.h"
+#include "storage/list_files.h"
+#include "storage/memory_file_system.h"
+#include "storage/record_file.h"
+
+namespace {
+
+using namespace vorbano;
+
+/// An installation that is ready for work, so that no box comes up.
+struct Office {
+    MemoryFileSystem files;
+    MemoryDatabase staging{stagingTables()};
+    RecordingPrintEngine printing;
+    QtDesktop desktop;
+
+    Office() {
+        files.makeFolder("Params").ignore();
+        NameRecord ente;
+        ente.name = "Borgo San Vorbano";
+        RecordFile<NameRecord>::open(files, enteFile)->append(ente).ignore();
+        RecordFile<TariffTable>::open(files, pmDipFile)->append(TariffTable()).ignore();
+        RecordFile<ContribRates>::open(files, conprevFile)->append(ContribRates()).ignore();
+    }
+};
+
+struct NoScreens : Screens {
+    [[nodiscard]] bool has(std::string_view) const override { return false; }
+    void open(std::string_view) override {}
+};
+
+/// Closes the form in front as soon as its window has been painted.
+void closeOnceShown(QtDesktop& desktop) {
+    QTimer::singleShot(0, qApp, [&desktop] {
+        QCoreApplication::processEvents();
+        if (Form* front = desktop.front()) front->close();
+    });
+}
+
+void emptyWindowOfTheToolkit(benchmark::State& state) {
+    for (auto _ : state) {
+        QDialog window;
+        window.resize(760, 460);
+        QTimer::singleShot(0, &window, [&window] {
+            QCoreApplication::processEvents();
+            window.accept();
+        });
+        window.exec();
+    }
+}
+BENCHMARK(emptyWindowOfTheToolkit)->Unit(benchmark::kMillisecond);
+
+void firstWindowOfTheProgram(benchmark::State& state) {
+    Office office;
+    for (auto _ : state) {
+        Program program(office.files, office.desktop, office.staging, office.printing);
+        closeOnceShown(office.desktop);
+        program.run();
+    }
+}
+BENCHMARK(firstWindowOfTheProgram)->Unit(benchmark::kMillisecond);
+
+template <class Screen>
+void screenOnShow(benchmark::State& state) {
+    Office office;
+    NoScreens none;
+    const Workplace workplace{office.files, office.desktop, office.staging, office.printing, none};
+    for (auto _ : state) {
+        const auto screen = std::make_unique<Screen>(workplace);
+        closeOnceShown(office.desktop);
+        office.desktop.show(screen->form);
+    }
+}
+BENCHMARK(screenOnShow<frmParametri>)->Unit(benchmark::kMillisecond);
+BENCHMARK(screenOnShow<frmCompStraord>)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    vorbano::applyStyle(application);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
