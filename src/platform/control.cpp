@@ -159,8 +159,11 @@ std::string Grid::cell(int atRow, int atColumn) const {
 }
 
 void Grid::setRows(std::vector<Lines> rows) {
-    rows.insert(rows.begin(), heading_);
-    cells = std::move(rows);
+    std::vector<Lines> lines;
+    lines.reserve(rows.size() + 1);
+    lines.push_back(heading_);
+    for (Lines& line : rows) lines.push_back(std::move(line));
+    cells = std::move(lines);
 }
 
 Frame::Frame(Container& parent, std::string name, std::string caption)

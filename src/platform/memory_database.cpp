@@ -26,7 +26,9 @@ Result<> MemoryDatabase::append(std::string_view table, const Row& row) {
     Table* found = find(table);
     if (found == nullptr) return Error{Failure::notFound, std::string(table)};
     Row kept;
-    for (const auto& [field, value] : row.fields()) {
+    for (const auto& cell : row.fields()) {
+        const std::string& field = cell.first;
+        const Value& value = cell.second;
         const auto& columns = found->info.columns;
         const auto column = std::find_if(columns.begin(), columns.end(),
                                          [&](const Column& one) { return sameTableName(one.name, field); });

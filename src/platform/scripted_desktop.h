@@ -22,6 +22,8 @@ class ScriptedDesktop : public Desktop {
     ScriptedDesktop& box(std::string title, std::string text, Answer answer = Answer::ok);
     /// The next form shown must be this one; `play` acts on it. It is closed afterwards if it is still open.
     ScriptedDesktop& form(std::string name, std::function<void(Form&)> play);
+    /// The next form shown may be any.
+    ScriptedDesktop& anyForm(std::function<void(Form&)> play) { return form({}, std::move(play)); }
     void setToday(std::chrono::year_month_day today) { today_ = today; }
 
     /// Opens a form without waiting for its closing, as the test itself plays it.

@@ -12,8 +12,7 @@ std::string inItalian(const Error& error) {
         case Failure::refused:
             return "Il file " + subject + " non può essere letto o scritto: controllare che non sia di sola lettura.";
         case Failure::device:
-            return "Il disco non ha completato l'operazione sul file " + subject +
-                   ". I dati non sono stati memorizzati.";
+            return "Il disco non ha completato l'operazione sul file " + subject + ".";
         case Failure::badName:
             return "Il nome " + subject + " non è valido.";
         case Failure::damaged:

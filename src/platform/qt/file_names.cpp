@@ -19,7 +19,7 @@ QString entry(const QString& folder, const QString& name) {
 }  // namespace
 
 QString asOnDisk(const QString& path) {
-    const QString clean = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    QString clean = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
     if (QFileInfo::exists(clean)) return clean;
     const QFileInfo info(clean);
     if (info.isRoot()) return clean;

@@ -10,6 +10,7 @@
 #include <QScrollBar>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "platform/qt/form_table.h"
 #include "platform/qt/plain_window.h"
@@ -27,7 +28,10 @@ FormWindow::FormWindow(Form& form, QWidget* parent, Place place)
     layOut();
     bind();
     form_.watchedBy(this);
-    captionChanged();
+    setWindowTitle(shown(form_.caption()));
+    // What must not happen inside an event or a procedure waits for the end of it.
+    connect(this, &FormWindow::contentChanged, this, &FormWindow::settle, Qt::QueuedConnection);
+    connect(this, &FormWindow::focusWandered, this, &FormWindow::answerFocus, Qt::QueuedConnection);
     bringAll();
 }
 
@@ -40,13 +44,14 @@ void FormWindow::build() {
     if (place_ == Place::beside) {
         setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
     } else {
-        setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint |
+        const Qt::WindowFlags kind = place_ == Place::first ? Qt::Window : Qt::Dialog;
+        setWindowFlags(kind | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint |
                        Qt::WindowCloseButtonHint);
     }
     if (!buildForm(form_.name(), *this)) buildPlainWindow(form_, *this);
     setObjectName(shown(form_.name()));
-    menu_ = std::make_unique<WindowMenu>(
-        form_, *this, [this](Control& control, const Gesture& gesture) { act(control, gesture); });
+    menu_ = std::make_unique<WindowMenu>(form_, *this,
+                                         [this](Control& control, const Gesture& gesture) { act(control, gesture); });
     bars_ = std::make_unique<WindowBars>(form_, *this);
     for (QPushButton* button : findChildren<QPushButton*>()) {
         const QString name = button->property("iconName").toString();
@@ -93,6 +98,9 @@ Spot FormWindow::spotOf(const Control& control, int line, int column) {
 
 QSize FormWindow::sizeHint() const {
     QSize wanted = content_->sizeHint().expandedTo(content_->minimumSizeHint());
+    if (content_->hasHeightForWidth()) {
+        wanted.setHeight(std::max(wanted.height(), content_->heightForWidth(wanted.width())));
+    }
     if (const QMenuBar* bar = menu_->bar()) {
         wanted.rheight() += bar->sizeHint().height();
         wanted.setWidth(std::max(wanted.width(), bar->sizeHint().width()));
@@ -125,9 +133,9 @@ void FormWindow::bringAll() {
         if (binding != nullptr && binding->bringContent != nullptr) pending_.insert(control);
         bring(*control);
         bringTimer(*control);
+        bringCaptions(*control);
     }
     settle();
-    for (QLabel* caption : findChildren<QLabel*>()) bringCaption(*caption);
 }
 
 void FormWindow::settle() {
@@ -148,19 +156,19 @@ void FormWindow::bringAspect(Control& control, Aspect aspect) {
     switch (aspect) {
         case Aspect::items:
         case Aspect::cells:
-            if (pending_.empty()) QMetaObject::invokeMethod(this, &FormWindow::settle, Qt::QueuedConnection);
+            if (pending_.empty()) emit contentChanged();
             pending_.insert(&control);
             break;
         case Aspect::enabled:
         case Aspect::visible:
-            // What stands in a frame shows and works with it.
+            bringStanding(control);
+            // What stands in a panel shows and works with it.
             if (control.kind() == Kind::frame || control.kind() == Kind::tabPanel) {
                 for (Control* inside : form_.controls()) bringStanding(*inside);
-            } else {
-                bringStanding(control);
+                bars_->followAll();
             }
-            bars_->followAll();
-            for (QLabel* caption : findChildren<QLabel*>()) bringCaption(*caption);
+            bars_->follow(control);
+            bringCaptions(control);
             break;
         case Aspect::text:
         case Aspect::locked:
@@ -176,9 +184,7 @@ void FormWindow::bringAspect(Control& control, Aspect aspect) {
     if (aspect == Aspect::text) bars_->follow(control);
     if (control.kind() == Kind::menuEntry) menu_->bring();
     if (control.kind() == Kind::timer) bringTimer(control);
-    if (control.kind() == Kind::label && aspect == Aspect::text) {
-        if (auto* label = qobject_cast<QLabel*>(widgetOf(control))) bringCaption(*label);
-    }
+    if (control.kind() == Kind::label && aspect == Aspect::text) bringCaptions(control);
 }
 
 void FormWindow::captionChanged() { setWindowTitle(shown(form_.caption())); }

@@ -9,8 +9,8 @@
 //     ListBox QListWidget, Grid QTableWidget, Frame QGroupBox (with title) or QFrame, TabPanel QTabWidget.
 //   Menu entries and timers need nothing. A HiddenLabel has no widget. Captions that never change are QLabels of any
 //   name without a control.
-// * The form's caption is shown. The .ui's own caption stays where the form gives none, and where it only adds a mnemonic
-//   ("&Salva" for "Salva").
+// * The form's captions are shown. On buttons, boxes, options and panels the .ui's own words stay as long as the form
+//   gives none, and where they only add a mnemonic ("&Salva" for "Salva"). A Label always shows the form's text.
 // * Every field has a label that is its buddy, with a mnemonic where there is room for one; a label that belongs to no
 //   control hides and shows with its buddy. In tables of fields, where a label each would be noise, set accessibleName.
 // * The order of Tab is the order in which the controls are declared in the form, not that of the .ui.
@@ -70,8 +70,8 @@ class FormWindow : public QDialog, public FormWatcher {
     /// open a page of a tab panel; scrolled into view. No widget when it is not there.
     [[nodiscard]] Spot spotOf(const Control& control, int line, int column = 0);
 
-    /// Controls that can be shown and have no widget, or one that cannot show them; input widgets that no control stands
-    /// for; names in properties that do not exist. Empty when all is well.
+    /// Controls that can be shown and have no widget, or one that cannot show them; input widgets that no control
+    /// stands for; names in properties that do not exist. Empty when all is well.
     [[nodiscard]] std::vector<std::string> missingWidgets() const;
     /// Names of controls that take the focus and that a screen reader could not name.
     [[nodiscard]] std::vector<std::string> namelessWidgets() const;
@@ -91,6 +91,10 @@ class FormWindow : public QDialog, public FormWatcher {
   signals:
     /// The form has closed.
     void shut();
+    /// Lines or cells of some control are to be brought.
+    void contentChanged();
+    /// The toolkit has moved the focus by itself.
+    void focusWandered();
 
   protected:
     bool event(QEvent* event) override;
@@ -113,7 +117,7 @@ class FormWindow : public QDialog, public FormWatcher {
     void bringStanding(Control& control);
     void bringAll();
     void bringTimer(const Control& control);
-    void bringCaption(QLabel& caption);
+    void bringCaptions(const Control& control);
     void act(Control& control, const Gesture& gesture);
     void leave(Control& control, bool forward);
     void closeByOperator();
@@ -125,6 +129,7 @@ class FormWindow : public QDialog, public FormWatcher {
     bool keyPressed(Control& control, const QKeyEvent& event);
     bool shortcut(Control& control, QObject* widget, QEvent& event);
     void focusCame(Control& control, const QFocusEvent& event);
+    void answerFocus();
 
     Form& form_;
     Operator operator_;
@@ -140,13 +145,26 @@ class FormWindow : public QDialog, public FormWatcher {
     QWidget* content_ = nullptr;
     /// Controls whose lines or cells have changed and are not yet brought.
     std::set<Control*> pending_;
-    /// Named by their label, so that the name follows the label.
-    std::set<const QWidget*> namedByLabel_;
+    /// A label beside a field, and the control of that field.
+    struct Caption {
+        QLabel* label;
+        Control* named;
+        bool givesName;  ///< the field has no other name for a screen reader
+        bool ofForm;     ///< it is a control itself, which shows and hides on its own
+    };
+    std::vector<Caption> captions_;
     /// The press was dropped, and so is the rest of it up to the release.
     QObject* dropped_ = nullptr;
     /// How often another window has come above this one and taken its events.
     unsigned timesBlocked_ = 0;
     bool following_ = false;
+    /// Where the toolkit put the focus by itself.
+    struct Wandered {
+        Control* control = nullptr;
+        const QWidget* place = nullptr;
+        bool byClerk = false;
+    };
+    Wandered wandered_;
     /// Above 0 while a change of the program is brought to the widgets.
     int changing_ = 0;
 };

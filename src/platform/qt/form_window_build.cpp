@@ -86,30 +86,28 @@ void FormWindow::bindCaptions() {
     for (QLabel* label : content_->findChildren<QLabel*>()) {
         Control* control = label->buddy() == nullptr ? nullptr : ownerOf(label->buddy());
         if (control == nullptr) continue;
-        QWidget* named = widgetOf(*control);
-        if (named->accessibleName().isEmpty()) namedByLabel_.insert(named);
+        const bool givesName = widgetOf(*control)->accessibleName().isEmpty();
+        const bool ofForm = form_.find(label->objectName().toStdString()) != nullptr;
+        captions_.push_back({label, control, givesName, ofForm});
         owners_.insert(label, control);
         label->installEventFilter(this);
     }
-    for (const auto& [control, widget] : widgets_) {
-        if (!widget->accessibleName().isEmpty()) continue;
-        if (const auto* group = qobject_cast<QGroupBox*>(widget)) {
-            widget->setAccessibleName(withoutMnemonic(group->title()));
-        }
-    }
 }
 
-void FormWindow::bringCaption(QLabel& caption) {
-    const Control* named = caption.buddy() == nullptr ? nullptr : ownerOf(&caption);
-    if (named == nullptr) return;
-    QWidget* widget = widgetOf(*named);
-    const QString name = withoutMnemonic(caption.text());
-    if (namedByLabel_.contains(widget) && widget->accessibleName() != name) widget->setAccessibleName(name);
-    // A label of the form shows and hides by itself, a mere caption with what it names.
-    const bool ofForm = form_.find(caption.objectName().toStdString()) != nullptr;
-    if (ofForm) return;
-    caption.setVisible(isMeantToShow(*named));
-    caption.setEnabled(named->isEnabled());
+void FormWindow::bringCaptions(const Control& control) {
+    for (const Caption& caption : captions_) {
+        const bool isIt = caption.named == &control || widgetOf(control) == caption.label;
+        const bool around = control.kind() == Kind::frame || control.kind() == Kind::tabPanel;
+        if (!isIt && !around) continue;
+        if (caption.givesName) {
+            const QString name = withoutMnemonic(caption.label->text());
+            QWidget* named = widgetOf(*caption.named);
+            if (named->accessibleName() != name) named->setAccessibleName(name);
+        }
+        if (caption.ofForm) continue;
+        caption.label->setVisible(isMeantToShow(*caption.named));
+        caption.label->setEnabled(caption.named->isEnabled());
+    }
 }
 
 void FormWindow::bindTimers() {
@@ -121,7 +119,8 @@ void FormWindow::bindTimers() {
         connect(timer, &QTimer::timeout, this, [this, control] {
             act(*control, [control](Operator&) {
                 static_cast<Timer*>(control)->fired.fire();
-                control->form().settleFocus();
+                // In the middle of a leave, behind a message box, nobody has the focus, and the leave will go on.
+                if (control->form().focused() != nullptr) control->form().settleFocus();
                 return Refusal::none;
             });
         });
@@ -146,9 +145,9 @@ std::vector<std::string> FormWindow::missingWidgets() const {
         const WidgetBinding* binding = bindingOf(control->kind());
         if (binding == nullptr || !control->hasWidget() || widgetOf(*control) != nullptr) continue;
         const auto* other = content_->findChild<QWidget*>(shown(control->name()));
-        missing.push_back(control->name() + (other == nullptr ? std::string(" has no widget")
-                                                              : std::string(" is shown by a ") +
-                                                                    other->metaObject()->className()));
+        missing.push_back(control->name() + (other == nullptr
+                                                 ? std::string(" has no widget")
+                                                 : std::string(" is shown by a ") + other->metaObject()->className()));
     }
     for (const QWidget* widget : content_->findChildren<QWidget*>()) {
         const std::string name = widget->objectName().toStdString();

@@ -7,6 +7,7 @@
 #include <QScrollArea>
 #include <QShortcutEvent>
 #include <algorithm>
+#include <utility>
 
 #include "platform/qt/form_window.h"
 
@@ -160,23 +161,22 @@ bool FormWindow::shortcut(Control& control, QObject* widget, QEvent& event) {
 
 void FormWindow::focusCame(Control& control, const QFocusEvent& event) {
     if (following_ || form_.focused() == &control) return;
-    // The toolkit moved the focus by itself. Where the clerk stands behind it, it is asked of the form; where it is only
-    // the window coming back to the front, or a page that was turned, the form's own place is taken again. Neither
-    // inside this event.
     const bool ownDoing = changing_ > 0 || event.reason() == Qt::ActiveWindowFocusReason ||
                           event.reason() == Qt::PopupFocusReason || event.reason() == Qt::MenuBarFocusReason;
-    const QWidget* place = focusWidget();
-    QMetaObject::invokeMethod(
-        this,
-        [this, &control, ownDoing, place] {
-            if (!form_.isOpen()) return;
-            if (ownDoing || focusWidget() != place) {
-                followFocus(false);
-            } else {
-                act(control, [&](Operator& clerk) { return clerk.enter(control); });
-            }
-        },
-        Qt::QueuedConnection);
+    wandered_ = {&control, focusWidget(), !ownDoing};
+    emit focusWandered();
+}
+
+/// Where the clerk stands behind a move of the focus, it is asked of the form; where it was only the window coming back
+/// to the front, or a page that was turned, the form's own place is taken again.
+void FormWindow::answerFocus() {
+    const Wandered wandered = std::exchange(wandered_, {});
+    if (!form_.isOpen()) return;
+    if (wandered.byClerk && focusWidget() == wandered.place) {
+        act(*wandered.control, [&](Operator& clerk) { return clerk.enter(*wandered.control); });
+    } else {
+        followFocus(false);
+    }
 }
 
 }  // namespace vorbano

@@ -21,7 +21,7 @@ HtmlPiece::HtmlPiece(const QString& html, const Style& style, double width, bool
     document_->setDefaultStyleSheet(style.sheet);
     // Widths as designed, not rounded to the dots of a screen: the same lines on paper, in the preview and in the file.
     document_->setUseDesignMetrics(true);
-    document_->setHtml(html);
+    document_->setHtml(html.trimmed());
     document_->setTextWidth(width);
     if (together) {
         bands_.push_back({0, document_->size().height()});
@@ -96,8 +96,11 @@ void HtmlPiece::paint(QPainter& painter, int first, int end) const {
     painter.translate(0, -top);
     const bool whole = end - first == static_cast<int>(bands_.size());
     if (!whole) {
-        context.clip = QRectF(0, top, document_->textWidth(), bottom - top);
-        painter.setClipRect(context.clip);
+        // What only touches the stretch from outside belongs to another page.
+        constexpr double touching = 0.1;
+        const QRectF stretch(0, top, document_->textWidth(), bottom - top);
+        context.clip = stretch.adjusted(0, touching, 0, -touching);
+        painter.setClipRect(stretch);
     }
     document_->documentLayout()->draw(&painter, context);
     painter.restore();

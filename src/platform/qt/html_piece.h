@@ -6,6 +6,8 @@
 
 #include "platform/qt/document_piece.h"
 
+class QTextFrame;
+
 namespace vorbano {
 
 /// Flowing text and small tables, laid out as HTML in a given width.
@@ -29,7 +31,7 @@ class HtmlPiece : public DocumentPiece {
         double bottom = 0;
     };
     void findBands();
-    void addRows(class QTextFrame* frame, std::vector<Band>& bands) const;
+    void addRows(QTextFrame* frame, std::vector<Band>& bands) const;
 
     std::unique_ptr<QTextDocument> document_;
     std::vector<Band> bands_;

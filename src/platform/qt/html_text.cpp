@@ -80,11 +80,14 @@ data namedData(const HtmlSection& section, const LayoutData& all) {
 }  // namespace
 
 Result<std::string> htmlText(const HtmlSection& section, const LayoutData& all) {
-    if (const Result<> checked = checkTags(section, all); !checked) return checked.error();
+    if (Result<> checked = checkTags(section, all); !checked) return checked.error();
     kainjow::mustache::mustache text(section.text);
     const Origin origin = section.lines.empty() ? Origin{} : section.lines.front();
     if (!text.is_valid()) return layoutError(origin, "segnaposti non validi: " + text.error_message());
-    return text.render(namedData(section, all));
+    const data root = namedData(section, all);
+    kainjow::mustache::context<std::string> context;
+    context.push(&root);
+    return text.render(context);
 }
 
 }  // namespace vorbano

@@ -32,7 +32,7 @@ Result<QByteArray> deliveredFile(const QString& name) {
 Result<> lay(const QString& path, const QByteArray& content) {
     const QString target = asOnDisk(path);
     if (QFile::exists(target)) return {};
-    if (const Result<> folder = makeFolder(QFileInfo(target).path()); !folder) return folder;
+    if (Result<> folder = makeFolder(QFileInfo(target).path()); !folder) return folder;
     QSaveFile file(target);
     if (!file.open(QIODevice::WriteOnly)) return failure(Failure::refused, target);
     file.write(content);
@@ -45,7 +45,7 @@ Result<> layLayouts(const QString& root) {
         const QString relative = files.next().mid(delivered.size());
         const auto content = deliveredFile(relative);
         if (!content) return content.error();
-        if (const Result<> laid = lay(root + '/' + relative, *content); !laid) return laid;
+        if (Result<> laid = lay(root + '/' + relative, *content); !laid) return laid;
     }
     return {};
 }
@@ -57,7 +57,7 @@ Result<> layDatabase(const QString& path, const Make& make) {
     if (QFile::exists(target)) return {};
     const QString companion = target + ".nuovo";
     QFile::remove(companion);
-    if (const Result<> made = make(companion); !made) {
+    if (Result<> made = make(companion); !made) {
         QFile::remove(companion);
         return made;
     }
@@ -77,7 +77,7 @@ Result<> layPlaces(const QString& root) {
         if (!places) return places.error();
         read[at] = std::move(*places);
     }
-    const Result<> made =
+    Result<> made =
         layDatabase(database, [&](const QString& companion) { return makePlaces(companion, read[0], read[1]); });
     return made ? lay(list, namesInForce(read[0])) : made;
 }
@@ -89,9 +89,9 @@ Result<> layInstallation(const std::string& rootName) {
     if (rootName.empty()) return Error{Failure::badName, rootName};
     const QString root = asOnDisk(QString::fromStdString(rootName));
     for (const char* folder : {"", "/Params", "/Stampe"}) {
-        if (const Result<> made = makeFolder(asOnDisk(root + folder)); !made) return made;
+        if (Result<> made = makeFolder(asOnDisk(root + folder)); !made) return made;
     }
-    if (const Result<> layouts = layLayouts(root); !layouts) return layouts;
+    if (Result<> layouts = layLayouts(root); !layouts) return layouts;
     const Result<> staging = layDatabase(root + "/Stampe/dbStampa.mdb", makeStagingDatabase);
     return staging ? layPlaces(root) : staging;
 }

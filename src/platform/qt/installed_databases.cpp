@@ -73,14 +73,16 @@ bool fillPlaces(const QSqlDatabase& database, const QString& table, const QStrin
 
 }  // namespace
 
-Result<> makeStagingDatabase(const QString& path) {
-    return makeDatabase(path, [](const QSqlDatabase& database) {
-        for (const TableInfo& table : stagingTables()) {
+Result<> makeTables(const QString& path, const std::vector<TableInfo>& tables) {
+    return makeDatabase(path, [&tables](const QSqlDatabase& database) {
+        for (const TableInfo& table : tables) {
             if (!QSqlQuery(database).exec(creation(table))) return false;
         }
         return true;
     });
 }
+
+Result<> makeStagingDatabase(const QString& path) { return makeTables(path, stagingTables()); }
 
 Result<> makePlaces(const QString& path, const std::vector<Place>& municipalities, const std::vector<Place>& states) {
     return makeDatabase(path, [&](const QSqlDatabase& database) {

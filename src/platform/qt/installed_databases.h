@@ -4,9 +4,13 @@
 #include <vector>
 
 #include "base/result.h"
+#include "platform/database.h"
 #include "platform/qt/places.h"
 
 namespace vorbano {
+
+/// Makes a database of these tables, empty, at a path where no file is.
+Result<> makeTables(const QString& path, const std::vector<TableInfo>& tables);
 
 /// Makes the staging database at a path where no file is: every table of the documents, empty.
 Result<> makeStagingDatabase(const QString& path);

@@ -78,8 +78,7 @@ constexpr std::array<Pair, 57> pairs{{
 
 }  // namespace
 
-QString ItalianTexts::translate(const char* context, const char* source, const char* disambiguation,
-                                int number) const {
+QString ItalianTexts::translate(const char* context, const char* source, const char* disambiguation, int number) const {
     (void)disambiguation;
     (void)number;
     // Only what the toolkit itself says: its contexts are the names of its classes.

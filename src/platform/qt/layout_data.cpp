@@ -94,6 +94,7 @@ Result<> runQuery(const LayoutQuery& query, SqliteDatabase& database, const QSql
         if (!known) return layoutError(query.origin, "interrogazione " + query.name + ": campo sconosciuto " + name);
     }
     std::vector<std::string> names;
+    names.reserve(columns.size());
     for (const ColumnDisplay& column : columns) names.push_back(column.name);
     result.setColumns(std::move(names));
     while (sql.next()) {
@@ -138,7 +139,7 @@ Result<LayoutData> LayoutData::run(const Layout& layout, SqliteDatabase& databas
         auto named = std::make_unique<Named>();
         named->name = query.name;
         named->result = QueryResult(query.single);
-        if (const Result<> done = runQuery(query, database, *connection, named->result); !done) return done.error();
+        if (Result<> done = runQuery(query, database, *connection, named->result); !done) return done.error();
         data.results_.push_back(std::move(named));
     }
     return data;

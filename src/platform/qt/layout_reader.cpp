@@ -97,12 +97,12 @@ Result<Layout> Reader::read(const std::vector<LayoutLine>& lines) {
         }
         if (!done) return done.error();
     }
-    if (const Result<> finished = finishSection(); !finished) return finished.error();
+    if (Result<> finished = finishSection(); !finished) return finished.error();
     return std::move(layout_);
 }
 
 Result<> Reader::beginSection(const LayoutLine& line) {
-    if (const Result<> finished = finishSection(); !finished) return finished;
+    if (Result<> finished = finishSection(); !finished) return finished;
     origin_ = line.origin;
     const std::string_view heading = withoutBlanks(line.text);
     if (heading.back() != ']') return fail("manca la parentesi ] alla fine della riga");
@@ -322,10 +322,10 @@ Result<> Reader::columnLine(std::string_view from) {
     const auto alignment = std::find(std::begin(alignments), std::end(alignments), first[1]);
     if (alignment == std::end(alignments)) return fail("allineamento sconosciuto: " + first[1]);
     column.alignment = static_cast<Alignment>(alignment - std::begin(alignments));
-    if (const Result<> title = text(column.title, fields[1]); !title) return title;
-    if (const Result<> cell = text(column.cell, fields[2]); !cell) return cell;
+    if (Result<> title = text(column.title, fields[1]); !title) return title;
+    if (Result<> cell = text(column.cell, fields[2]); !cell) return cell;
     if (fields.size() == 4) {
-        if (const Result<> total = text(column.total, fields[3]); !total) return total;
+        if (Result<> total = text(column.total, fields[3]); !total) return total;
     }
     table.columns.push_back(std::move(column));
     return {};

@@ -22,7 +22,7 @@ Result<> include(std::vector<LayoutLine>& lines, const LayoutLine& line, const L
     }
     const std::string part = "parti/" + std::string(name) + ".part";
     if (depth == deepest) return layoutError(line.origin, "le parti si includono a vicenda: " + part);
-    const Result<> added = addLines(lines, part, source, depth + 1);
+    Result<> added = addLines(lines, part, source, depth + 1);
     if (!added && added.error().kind != Failure::damaged) return layoutError(line.origin, "non trovato: " + part);
     return added;
 }
@@ -40,7 +40,7 @@ Result<> addLines(std::vector<LayoutLine>& lines, const std::string& file, const
         LayoutLine line{std::string(text), {file, number}};
         if (!text.starts_with(inclusion)) {
             lines.push_back(std::move(line));
-        } else if (const Result<> included = include(lines, line, source, depth); !included) {
+        } else if (Result<> included = include(lines, line, source, depth); !included) {
             return included;
         }
     }
@@ -51,7 +51,7 @@ Result<> addLines(std::vector<LayoutLine>& lines, const std::string& file, const
 
 Result<std::vector<LayoutLine>> layoutLines(std::string_view name, const LayoutSource& source) {
     std::vector<LayoutLine> lines;
-    if (const Result<> added = addLines(lines, std::string(name), source, 0); !added) return added.error();
+    if (Result<> added = addLines(lines, std::string(name), source, 0); !added) return added.error();
     return lines;
 }
 

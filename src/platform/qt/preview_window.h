@@ -7,6 +7,7 @@
 #include "platform/qt/report_document.h"
 
 class QLabel;
+class QLayout;
 class QToolButton;
 
 namespace vorbano {
@@ -27,7 +28,7 @@ class PreviewWindow : public QDialog {
     void print();
 
   private:
-    class QLayout* makeTools();
+    QLayout* makeTools();
     QToolButton* makeTool(const QString& text, const QString& hint, const QString& name);
     void tell(const QString& words, bool failure);
     void showPageNumber(int page);

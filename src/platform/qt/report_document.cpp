@@ -125,7 +125,7 @@ Result<> ReportDocument::savePdf(const std::string& path) {
         writer.setPdfVersion(QPagedPaintDevice::PdfVersion_A1b);
         writer.setTitle(setup_.title);
         writer.setCreator(QStringLiteral("Vorbano"));
-        if (const Result<> painted = paintOn(writer, name); !painted) return painted;
+        if (Result<> painted = paintOn(writer, name); !painted) return painted;
     }
     return file.commit() ? Result<>() : Error{Failure::device, name};
 }

@@ -10,6 +10,7 @@
 #include "platform/print_engine.h"
 #include "platform/qt/document_piece.h"
 
+class QPagedPaintDevice;
 class QPainter;
 
 namespace vorbano {
@@ -41,7 +42,7 @@ class ReportDocument : public Document {
     /// Paints a page (from 0) with its margins; the painter's unit is 1/96 inch.
     void paintPage(int page, QPainter& painter) const;
     /// The same on a printer or file that is ready to begin; `refused` when it does not let itself be painted on.
-    Result<> paintOn(class QPagedPaintDevice& device, const std::string& name) const;
+    Result<> paintOn(QPagedPaintDevice& device, const std::string& name) const;
 
     /// Width and height of what is between the margins and above the foot.
     [[nodiscard]] static QSizeF contentSize(const QPageLayout& layout);

@@ -129,7 +129,7 @@ SqliteDatabase::~SqliteDatabase() { close(); }
 void SqliteDatabase::close() {
     if (!open_) return;
     tables_->all.clear();
-    if (begun_) commit().ignore();
+    endTransaction().ignore();
     QSqlDatabase::database(connectionName_, false).close();
     QSqlDatabase::removeDatabase(connectionName_);
     open_ = begun_ = false;
@@ -171,7 +171,7 @@ Result<> SqliteDatabase::open() {
         QSqlQuery(database).exec("PRAGMA journal_mode = MEMORY");
         QSqlQuery(database).exec("PRAGMA synchronous = OFF");
     }
-    if (const Result<> loaded = loadTables(); !loaded) {
+    if (Result<> loaded = loadTables(); !loaded) {
         close();
         return loaded;
     }
@@ -203,7 +203,7 @@ Result<> SqliteDatabase::fail(const QSqlQuery& query) const { return Error{meani
 
 Result<QSqlDatabase> SqliteDatabase::connection() {
     if (!open_) {
-        if (const Result<> usable = check(); !usable) return usable.error();
+        if (Result<> usable = check(); !usable) return usable.error();
     }
     return QSqlDatabase::database(connectionName_, false);
 }
@@ -306,6 +306,10 @@ Result<> SqliteDatabase::begin() {
 
 Result<> SqliteDatabase::commit() {
     if (const auto usable = connection(); !usable) return usable.error();
+    return endTransaction();
+}
+
+Result<> SqliteDatabase::endTransaction() {
     if (!begun_) return {};
     QSqlQuery query(QSqlDatabase::database(connectionName_, false));
     if (!query.exec("COMMIT")) return fail(query);

@@ -7,6 +7,8 @@
 
 #include "platform/database.h"
 
+class QSqlQuery;
+
 namespace vorbano {
 
 /// What stands under the name of a database, told by its first bytes and never by the name.
@@ -58,7 +60,8 @@ class SqliteDatabase : public Database {
     void close();
     Result<> loadTables();
     Result<Table*> table(std::string_view name);
-    [[nodiscard]] Result<> fail(const class QSqlQuery& query) const;
+    Result<> endTransaction();
+    [[nodiscard]] Result<> fail(const QSqlQuery& query) const;
 
     QString path_;
     QString connectionName_;

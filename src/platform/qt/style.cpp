@@ -5,15 +5,12 @@
 #include <QFont>
 #include <QLibraryInfo>
 #include <QLocale>
-#include <QPainter>
 #include <QPalette>
-#include <QProxyStyle>
-#include <QStyleFactory>
-#include <QStyleOption>
 #include <QTranslator>
 #include <algorithm>
 #include <array>
 
+#include "platform/qt/house_style.h"
 #include "platform/qt/italian_texts.h"
 
 // Resources of a library are linked in only when they are asked for, and only outside every namespace.
@@ -59,38 +56,21 @@ QPalette palette() {
     return palette;
 }
 
-/// The style sheet draws the ring of the focus but for the combo box, whose arrow it cannot draw without a picture.
-class HouseStyle : public QProxyStyle {
-  public:
-    HouseStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
-
-    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
-                            const QWidget* widget) const override {
-        QProxyStyle::drawComplexControl(control, option, painter, widget);
-        if (control != CC_ComboBox || !option->state.testFlag(State_HasFocus)) return;
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->setPen(QPen(option->palette.color(QPalette::Highlight), 2));
-        painter->setBrush(Qt::NoBrush);
-        painter->drawRoundedRect(QRectF(option->rect).adjusted(1, 1, -1, -1), 3, 3);
-        painter->restore();
-    }
-};
-
-void speakItalian(QApplication& application) {
+void speakItalian() {
     QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
-    application.installTranslator(new ItalianTexts(&application));
-    auto* installed = new QTranslator(&application);
+    static ItalianTexts ours;
+    static QTranslator installed;
+    QCoreApplication::installTranslator(&ours);
     const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
-    if (installed->load(QStringLiteral("qtbase_it"), folder)) application.installTranslator(installed);
+    if (installed.load(QStringLiteral("qtbase_it"), folder)) QCoreApplication::installTranslator(&installed);
 }
 
 }  // namespace
 
 void applyStyle(QApplication& application) {
     openResources();
-    speakItalian(application);
-    QApplication::setStyle(new HouseStyle);
+    speakItalian();
+    QApplication::setStyle(makeHouseStyle());
     QApplication::setPalette(palette());
     QFont font = QApplication::font();
     font.setPointSizeF(std::max(pointSize, font.pointSizeF()));

@@ -40,9 +40,9 @@ Result<std::unique_ptr<TablePiece>> TablePiece::make(const TableSection& section
     if (table->rows_ == nullptr) {
         return layoutError(section.origin, "interrogazione sconosciuta: " + section.query);
     }
-    if (const Result<> columns = table->addColumns(section, data, width); !columns) return columns.error();
-    if (const Result<> groups = table->addGroups(section, data); !groups) return groups.error();
-    if (const Result<> totals = table->addTotals(section, data); !totals) return totals.error();
+    if (Result<> columns = table->addColumns(section, data, width); !columns) return columns.error();
+    if (Result<> groups = table->addGroups(section, data); !groups) return groups.error();
+    if (Result<> totals = table->addTotals(section, data); !totals) return totals.error();
     table->measureRows();
     table->measureCommas();
     return table;

@@ -22,7 +22,7 @@ QFont fineFont(const QString& family, double size, bool bold) {
 QString firstFamily(const std::vector<std::string>& families) {
     const QStringList there = QFontDatabase::families();
     for (const std::string& family : families) {
-        const QString name = QString::fromStdString(family);
+        QString name = QString::fromStdString(family);
         if (there.contains(name, Qt::CaseInsensitive)) return name;
     }
     return QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();

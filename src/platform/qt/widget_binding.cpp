@@ -40,11 +40,13 @@ QString toneName(Tone tone) {
     return {};
 }
 
-/// The caption that a widget shows for the form's one. The window's own words stay where the program gives none, and
-/// where they only add a mnemonic.
-QString caption(const QString& present, const std::string& wanted) {
+/// The caption that a widget shows for the form's one. The window's own words stay as long as the program has given
+/// none, and where they only add a mnemonic.
+QString caption(QWidget& widget, const QString& present, const std::string& wanted) {
+    constexpr const char* given = "captionGiven";
     const QString text = shown(wanted);
-    if (text == present) return present;
+    if (text == present || (text.isEmpty() && !widget.property(given).toBool())) return present;
+    widget.setProperty(given, true);
     const bool onlyMnemonic = !text.contains('&') && withoutMnemonic(present) == withoutMnemonic(text);
     return onlyMnemonic ? present : text;
 }
@@ -82,8 +84,8 @@ void bringLabel(const Control& control, QWidget& widget) {
     const auto& label = static_cast<const Label&>(control);
     auto& shownLabel = static_cast<QLabel&>(widget);
     const QString text = shown(label.text());
-    const bool onlyMnemonic = shownLabel.buddy() != nullptr && !text.contains('&') &&
-                              shownLabel.text().remove('&') == text;
+    const bool onlyMnemonic =
+        shownLabel.buddy() != nullptr && !text.contains('&') && shownLabel.text().remove('&') == text;
     if (shownLabel.text() != text && !onlyMnemonic) shownLabel.setText(text);
     setStyleMark(widget, "tone", toneName(label.tone()));
 }
@@ -115,7 +117,7 @@ void hangButton(Control& control, QWidget& widget, const Act& act) {
 void bringButton(const Control& control, QWidget& widget) {
     const auto& source = static_cast<const Button&>(control);
     auto& button = static_cast<QPushButton&>(widget);
-    const QString text = caption(button.text(), source.text());
+    const QString text = caption(button, button.text(), source.text());
     if (button.text() != text) button.setText(text);
     setStyleMark(widget, "tone", toneName(source.tone()));
 }
@@ -150,7 +152,7 @@ template <class Source>
 void bringMark(const Control& control, QWidget& widget) {
     const auto& source = static_cast<const Source&>(control);
     auto& button = static_cast<QAbstractButton&>(widget);
-    const QString text = caption(button.text(), source.text());
+    const QString text = caption(button, button.text(), source.text());
     if (button.text() != text) button.setText(text);
     button.setChecked(source.checked());
 }
@@ -166,7 +168,7 @@ void turnCheckBox(Control& control, QWidget& widget, const Act& act) {
 void bringFrame(const Control& control, QWidget& widget) {
     const auto& frame = static_cast<const Frame&>(control);
     if (auto* group = qobject_cast<QGroupBox*>(&widget)) {
-        const QString text = caption(group->title(), frame.text());
+        const QString text = caption(*group, group->title(), frame.text());
         if (group->title() != text) group->setTitle(text);
     }
     setStyleMark(widget, "tone", toneName(frame.tone()));
@@ -177,11 +179,8 @@ constexpr WidgetBinding textBinding{.kind = Kind::textBox,
                                     .make = newWidget<QLineEdit>,
                                     .hang = hangTextBox,
                                     .bring = bringTextBox};
-constexpr WidgetBinding labelBinding{.kind = Kind::label,
-                                     .classes = {"QLabel"},
-                                     .make = newWidget<QLabel>,
-                                     .hang = hangLabel,
-                                     .bring = bringLabel};
+constexpr WidgetBinding labelBinding{
+    .kind = Kind::label, .classes = {"QLabel"}, .make = newWidget<QLabel>, .hang = hangLabel, .bring = bringLabel};
 constexpr WidgetBinding buttonBinding{.kind = Kind::button,
                                       .classes = {"QPushButton"},
                                       .make = newWidget<QPushButton>,
@@ -203,17 +202,15 @@ constexpr WidgetBinding optionBinding{.kind = Kind::option,
                                       .bring = bringMark<Option>,
                                       .activate = activateByClick,
                                       .key = walkKey};
-constexpr WidgetBinding frameBinding{.kind = Kind::frame,
-                                     .classes = {"QGroupBox", "QFrame"},
-                                     .make = newWidget<QGroupBox>,
-                                     .bring = bringFrame};
+constexpr WidgetBinding frameBinding{
+    .kind = Kind::frame, .classes = {"QGroupBox", "QFrame"}, .make = newWidget<QGroupBox>, .bring = bringFrame};
 
 }  // namespace
 
 const WidgetBinding* bindingOf(Kind kind) {
-    static const std::array<const WidgetBinding*, 10> all{&textBinding,  &labelBinding, &buttonBinding, &checkBinding,
+    static const std::array<const WidgetBinding*, 10> all{&textBinding,   &labelBinding, &buttonBinding, &checkBinding,
                                                           &optionBinding, &frameBinding, &comboBinding,  &listBinding,
-                                                          &gridBinding,  &tabBinding};
+                                                          &gridBinding,   &tabBinding};
     const auto* const at =
         std::find_if(all.begin(), all.end(), [&](const WidgetBinding* one) { return one->kind == kind; });
     return at == all.end() ? nullptr : *at;

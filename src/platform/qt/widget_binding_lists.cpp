@@ -47,8 +47,8 @@ void bringCombo(const Control& control, QWidget& widget) {
     auto& combo = static_cast<QComboBox&>(widget);
     // A text that the program assigned need not be a line of the list; it is shown all the same.
     const int index = source.selection();
-    const bool isLine = index >= 0 && index < combo.count() && source.items()[static_cast<std::size_t>(index)] ==
-                                                                   source.text();
+    const bool isLine =
+        index >= 0 && index < combo.count() && source.items()[static_cast<std::size_t>(index)] == source.text();
     combo.setPlaceholderText(isLine ? QString() : vorbano::shown(source.text()));
     if (combo.currentIndex() != (isLine ? index : -1)) combo.setCurrentIndex(isLine ? index : -1);
     combo.update();
@@ -294,9 +294,7 @@ Spot tabSpot(QWidget& widget, int line, int column) {
     return {bar, bar->tabRect(line).center()};
 }
 
-std::array<QWidget*, 2> tabParts(QWidget& widget) {
-    return {static_cast<QTabWidget&>(widget).tabBar(), nullptr};
-}
+std::array<QWidget*, 2> tabParts(QWidget& widget) { return {static_cast<QTabWidget&>(widget).tabBar(), nullptr}; }
 
 QWidget* tabFocus(QWidget& widget) { return static_cast<QTabWidget&>(widget).tabBar(); }
 
