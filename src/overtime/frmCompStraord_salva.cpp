@@ -107,7 +107,7 @@ Result<> frmCompStraord::storeName() {
     NameRecord record;
     record.name = trim(txtNameDip.text());
     bool known = false;
-    const auto seen = names->scan(
+    auto seen = names->scan(
         [&](int, const NameRecord& stored) { known = known || stored.name.trimmed() == record.name.trimmed(); });
     if (!seen) return seen;
     const int edited = correctingName_ ? wholeScan(Label88.text()) : 0;

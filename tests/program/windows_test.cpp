@@ -3,6 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
+#include <QScrollArea>
+
 #include "platform/memory_database.h"
 #include "platform/qt/form_window.h"
 #include "platform/scripted_desktop.h"
@@ -27,11 +30,16 @@ class WindowDesktop : public Desktop {
 
   private:
     void see(Form& form) {
-        const FormWindow window(form);
+        FormWindow window(form);
+        window.show();
+        QCoreApplication::processEvents();
         EXPECT_THAT(window.missingWidgets(), testing::IsEmpty()) << form.name();
-        // A clerk may have a small screen: scrolling is possible, but nothing should need it.
-        EXPECT_LE(window.sizeHint().width(), 1366) << form.name();
-        EXPECT_LE(window.sizeHint().height(), 768) << form.name();
+        // The smallest screen of an office is enough: as it opens, no window needs to be scrolled. What is left to it
+        // below its menu and inside its frame is a little less than the screen.
+        const auto* area = window.findChild<QScrollArea*>();
+        ASSERT_NE(area, nullptr) << form.name();
+        EXPECT_LE(area->widget()->minimumSizeHint().width(), 1340) << form.name();
+        EXPECT_LE(area->widget()->minimumSizeHint().height(), 700) << form.name();
         ++windows;
     }
 };
