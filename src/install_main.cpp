@@ -1,9 +1,8 @@
 // Lays the delivered installation under the root: layouts, the two databases, the list of municipalities. What is there
 // already stays as it is.
 
-#include <cstdio>
-
 #include <QCoreApplication>
+#include <cstdio>
 
 #include "platform/qt/installation.h"
 #include "storage/disk_file_system.h"

@@ -1,7 +1,7 @@
 #include "overtime/frmCompStraord.h"
 
 #include "screens/date_entry.h"
-#include "screens/failure_words.h"
+#include "screens/well_done.h"
 #include "storage/numbers.h"
 
 namespace vorbano {

@@ -7,7 +7,7 @@
 #include "overtime/period_panel.h"
 #include "parameters/parameter_files.h"
 #include "parameters/tariff_records.h"
-#include "screens/failure_words.h"
+#include "screens/well_done.h"
 #include "screens/workplace.h"
 #include "storage/election.h"
 #include "storage/list_files.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "overtime/frmCompStraord.h"
-#include "screens/failure_words.h"
+#include "screens/well_done.h"
 #include "storage/dates.h"
 #include "storage/numbers.h"
 

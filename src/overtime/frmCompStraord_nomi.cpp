@@ -1,7 +1,7 @@
 // The list of all staff names ever entered, and the correction of one of them.
 
 #include "overtime/frmCompStraord.h"
-#include "screens/failure_words.h"
+#include "screens/well_done.h"
 #include "storage/numbers.h"
 
 namespace vorbano {

@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "overtime/frmCompStraord.h"
-#include "screens/failure_words.h"
+#include "screens/well_done.h"
 #include "storage/dates.h"
 #include "storage/numbers.h"
 

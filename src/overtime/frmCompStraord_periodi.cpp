@@ -2,7 +2,7 @@
 
 #include "overtime/frmCompStraord.h"
 #include "screens/date_entry.h"
-#include "screens/failure_words.h"
+#include "screens/well_done.h"
 #include "storage/dates.h"
 #include "storage/numbers.h"
 

@@ -1,7 +1,7 @@
 // Storing an employee, and going on to the next.
 
 #include "overtime/frmCompStraord.h"
-#include "screens/failure_words.h"
+#include "screens/well_done.h"
 #include "storage/dates.h"
 #include "storage/numbers.h"
 

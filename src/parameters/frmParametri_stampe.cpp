@@ -3,7 +3,7 @@
 #include <string>
 
 #include "parameters/frmParametri.h"
-#include "screens/failure_words.h"
+#include "screens/well_done.h"
 
 namespace vorbano {
 

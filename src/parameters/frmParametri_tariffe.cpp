@@ -4,7 +4,7 @@
 
 #include "parameters/frmParametri.h"
 #include "parameters/parameter_files.h"
-#include "screens/failure_words.h"
+#include "screens/well_done.h"
 #include "storage/numbers.h"
 
 namespace vorbano {

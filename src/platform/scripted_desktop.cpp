@@ -33,7 +33,8 @@ void ScriptedDesktop::show(Form& form) {
     if (!script_.empty() && std::holds_alternative<Visit>(script_.front())) {
         const Visit visit = std::get<Visit>(script_.front());
         script_.pop_front();
-        if (!visit.name.empty() && visit.name != form.name()) mistakes_.push_back("expected the form " + visit.name + ", came " + form.name());
+        if (!visit.name.empty() && visit.name != form.name())
+            mistakes_.push_back("expected the form " + visit.name + ", came " + form.name());
         if (visit.play) visit.play(form);
     } else {
         mistakes_.push_back("nobody expected the form " + form.name());

@@ -2,7 +2,7 @@
 
 #include "reports/impegno.h"
 #include "screens/date_entry.h"
-#include "screens/failure_words.h"
+#include "screens/well_done.h"
 #include "storage/codepage.h"
 
 namespace vorbano {

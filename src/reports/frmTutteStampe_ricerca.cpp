@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include "reports/frmTutteStampe.h"
-#include "screens/failure_words.h"
+#include "screens/well_done.h"
 #include "storage/record_file.h"
 
 namespace vorbano {

@@ -2,7 +2,8 @@
 
 #include <array>
 
-#include "screens/failure_words.h"
+#include "platform/failure_words.h"
+#include "screens/well_done.h"
 #include "storage/list_files.h"
 #include "storage/record_file.h"
 

@@ -131,17 +131,7 @@ const std::set<std::string>& provenElsewhere() {
         " Ottobre ",
         " Novembre ",
         " Dicembre ",
-        // Failures of the disk, of databases and of layouts: a scenario's disk does not fail. The fault tests show
-        // them.
-        "Manca il file ",
-        "Manca la cartella del file ",
-        "Il file ",
-        " non può essere letto o scritto: controllare che non sia di sola lettura.",
-        "Il disco non ha completato l'operazione sul file ",
-        "Il nome ",
-        " non è valido.",
-        " non è nel formato di questa versione del programma.",
-        " contiene già il numero massimo di record.",
+        // A missing staging database: a scenario lays the installation first. The tests of the start show it.
         " I documenti non possono essere stampati.",
     };
     return texts;

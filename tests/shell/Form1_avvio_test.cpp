@@ -127,9 +127,11 @@ TEST_F(Avvio, WithoutTheStagingTablesIsToldOnceAndGoesOn) {
 TEST_F(Avvio, WithTablesOfAnOlderInstallationIsTold) {
     layEnte();
     tables.state = Error{Failure::damaged, "Stampe/dbStampa.mdb"};
-    desktop.box("Vorbano",
-                "Il file Stampe/dbStampa.mdb non è nel formato di questa versione del programma. I documenti non "
-                "possono essere stampati.");
+    desktop.box(
+        "Vorbano",
+        "Il file Stampe/dbStampa.mdb non è un archivio di questa versione del programma: può essere danneggiato, o "
+        "provenire da un'installazione precedente. I documenti non "
+        "possono essere stampati.");
     start();
     expectMenus(true);
 }

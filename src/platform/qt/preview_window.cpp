@@ -9,7 +9,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "platform/qt/failure_words.h"
+#include "platform/failure_words.h"
 
 namespace vorbano {
 
@@ -103,13 +103,13 @@ void PreviewWindow::savePdf() {
     const QString path = ask_(this, proposedPdfName(document_.title()));
     if (path.isEmpty()) return;
     const Result<> saved = document_.savePdf(path.toStdString());
-    const QString failure = saved ? QString() : QString::fromStdString(describe(saved.error()));
+    const QString failure = saved ? QString() : QString::fromStdString(inItalian(saved.error()));
     tell(saved ? QStringLiteral("Documento salvato: ") + QDir::toNativeSeparators(path) : failure, !saved);
 }
 
 void PreviewWindow::print() {
     const Result<> printed = printer_.print(document_, document_.title().toStdString());
-    if (!printed) tell(QString::fromStdString(describe(printed.error())), true);
+    if (!printed) tell(QString::fromStdString(inItalian(printed.error())), true);
 }
 
 }  // namespace vorbano

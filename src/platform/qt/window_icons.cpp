@@ -94,7 +94,7 @@ QPainterPath calculate() {
 
 class DrawnIcon : public QIconEngine {
   public:
-    explicit DrawnIcon(QPainterPath path) : path_(std::move(path)) {}
+    explicit DrawnIcon(const QPainterPath& path) : path_(path) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
         (void)state;

@@ -2,7 +2,6 @@
 #include <fstream>
 
 #include "file_content.h"
-#include "platform/qt/failure_words.h"
 #include "platform/qt/installed_databases.h"
 #include "platform/qt/sqlite_database.h"
 #include "support/results.h"

@@ -32,6 +32,9 @@ TEST_F(Bars, NumbersAreReadInItalianForm) {
     screen.txtMonte.text = "1.200";
     screen.txtOre.text = " 600,00 ";
     EXPECT_EQ(bar().text(), "600 di 1200 ore");
+    // A point before the comma counts for nothing, wherever it stands.
+    screen.txtOre.text = "1.2";
+    EXPECT_EQ(bar().text(), "12 di 1200 ore");
 }
 
 TEST_F(Bars, APoolThatIsNotYetKnownIsAnEmptyBarWithoutWords) {

@@ -145,6 +145,16 @@ TEST_F(Focus, APageThatTheProgramTurnsMovesNobodysFocus) {
     EXPECT_EQ(keyboard(), "Check1");
 }
 
+TEST_F(Focus, APageThatTheProgramTurnsEntersNothing) {
+    screen.SSTab1.page = 1;
+    screen.form.focus(screen.MSFlexGrid1);
+    screen.note(screen.List1.gotFocus, "List1 entered");
+    screen.SSTab1.page = 0;
+    QApplication::processEvents();
+    EXPECT_EQ(screen.form.focused(), &screen.MSFlexGrid1);
+    EXPECT_THAT(screen.log, testing::Not(testing::Contains("List1 entered")));
+}
+
 TEST_F(Focus, ALockedFieldIsNotEntered) {
     click(screen.txtMonte);
     EXPECT_EQ(screen.form.focused(), &screen.txtData);

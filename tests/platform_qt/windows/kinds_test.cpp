@@ -216,6 +216,19 @@ TEST_F(Kinds, APanelThatWasHiddenBesideAHiddenFieldBringsBackOnlyWhatIsVisible) 
     EXPECT_TRUE(widget(screen.txtMonte).isVisible());
 }
 
+TEST_F(Kinds, WhatBelongsToAPanelFollowsItWhereverItsWidgetStands) {
+    vorbano::Form form("frmProva", "Prova");
+    vorbano::Frame panel(form, "Frame1", "1° periodo");
+    const vorbano::Button save(panel, "cmdSalva", "&Salva");  // designed outside the panel
+    const vorbano::FormWindow other(form);
+    panel.enabled = false;
+    EXPECT_FALSE(other.widgetOf(save)->isEnabled());
+    panel.visible = false;
+    EXPECT_TRUE(other.widgetOf(save)->isHidden());
+    panel.visible = true;
+    EXPECT_FALSE(other.widgetOf(save)->isHidden());
+}
+
 TEST_F(Kinds, ThePanelHearsThePointer) {
     const QPoint corner(6, widget(screen.Frame1).height() - 4);
     QTest::mouseClick(&widget(screen.Frame1), Qt::LeftButton, Qt::NoModifier, corner);

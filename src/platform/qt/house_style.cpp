@@ -1,0 +1,34 @@
+#include "platform/qt/house_style.h"
+
+#include <QPainter>
+#include <QProxyStyle>
+#include <QStyleFactory>
+#include <QStyleOption>
+
+namespace vorbano {
+
+namespace {
+
+/// The style sheet draws the ring of the focus but for the combo box, whose arrow it cannot draw without a picture.
+class HouseStyle : public QProxyStyle {
+  public:
+    HouseStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        if (control != CC_ComboBox || !option->state.testFlag(State_HasFocus)) return;
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(QPen(option->palette.color(QPalette::Highlight), 2));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRoundedRect(QRectF(option->rect).adjusted(1, 1, -1, -1), 3, 3);
+        painter->restore();
+    }
+};
+
+}  // namespace
+
+QStyle* makeHouseStyle() { return new HouseStyle; }
+
+}  // namespace vorbano
