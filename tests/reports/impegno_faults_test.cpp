@@ -62,9 +62,7 @@ TEST_F(ImpegnoFaults, DatabaseThatFailsInTheFillingIsToldAndCleared) {
     for (int n = 1; n <= 7; ++n) {
         FailingDatabase failing;
         failing.failAt = n;
-        desktop.box(
-            "Errore",
-            "Il disco non ha completato l'operazione sul file dbStampa.mdb.");
+        desktop.box("Errore", "Il disco non ha completato l'operazione sul file dbStampa.mdb.");
         printOn({files, desktop, failing, printing, screens});
         EXPECT_TRUE(printing.jobs.empty()) << "no layout over half-filled tables, failing at " << n;
         const Snapshot left(failing);
