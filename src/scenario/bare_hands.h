@@ -21,7 +21,7 @@ class BareHands : public Hands, private FormWatcher {
     [[nodiscard]] std::string seenOtherwise(const Line&, const Form&, const Control&) override { return {}; }
     void setToday(std::chrono::year_month_day day) override { today = day; }
     /// There is nothing to take a picture of.
-    [[nodiscard]] std::string takePicture(const std::filesystem::path&) override { return {}; }
+    [[nodiscard]] std::string takePicture(const std::filesystem::path&, const Form*) override { return {}; }
 
     FormStack forms;
     /// Nothing is the clock of this machine.

@@ -27,8 +27,8 @@ class Hands {
     [[nodiscard]] virtual std::string seenOtherwise(const Line& look, const Form& form, const Control& control) = 0;
     /// What the clock says from here on.
     virtual void setToday(std::chrono::year_month_day today) = 0;
-    /// Takes a picture of what lies on top; what went wrong, or "".
-    [[nodiscard]] virtual std::string takePicture(const std::filesystem::path& file) = 0;
+    /// Takes a picture of the form, or, when it is nullptr, of what lies on top; what went wrong, or "".
+    [[nodiscard]] virtual std::string takePicture(const std::filesystem::path& file, const Form* form) = 0;
 };
 
 /// A message box as the clerk sees it.

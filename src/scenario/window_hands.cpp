@@ -177,8 +177,8 @@ std::string WindowHands::seenOtherwise(const Line& look, const Form& form, const
     return lookAtWidget(look, *window, control);
 }
 
-std::string WindowHands::takePicture(const std::filesystem::path& file) {
-    QWidget* top = QApplication::activeModalWidget();
+std::string WindowHands::takePicture(const std::filesystem::path& file, const Form* form) {
+    QWidget* top = form == nullptr ? QApplication::activeModalWidget() : desktop_.windowOf(*form);
     if (top == nullptr) top = desktop_.frontWindow();
     if (top == nullptr) return "no window";
     if (auto* window = qobject_cast<FormWindow*>(top)) window->settle();

@@ -19,7 +19,7 @@ class WindowHands : public Hands {
     [[nodiscard]] std::string make(const Line& gesture, Form& form, Control* control) override;
     [[nodiscard]] std::string seenOtherwise(const Line& look, const Form& form, const Control& control) override;
     void setToday(std::chrono::year_month_day today) override { desktop_.setToday(today); }
-    [[nodiscard]] std::string takePicture(const std::filesystem::path& file) override;
+    [[nodiscard]] std::string takePicture(const std::filesystem::path& file, const Form* form) override;
 
   private:
     QtDesktop& desktop_;
