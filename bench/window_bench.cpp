@@ -5,7 +5,9 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QEvent>
 #include <QTimer>
+#include <functional>
 #include <memory>
 
 #include "overtime/frmCompStraord.h"
@@ -46,22 +48,36 @@ struct NoScreens : Screens {
     void open(std::string_view) override {}
 };
 
-/// Closes the form in front as soon as its window has been painted.
-void closeOnceShown(QtDesktop& desktop) {
-    QTimer::singleShot(0, qApp, [&desktop] {
-        QCoreApplication::processEvents();
-        if (Form* front = desktop.front()) front->close();
-    });
+/// Calls `whenPainted` once, after the first window on show has been painted.
+class FirstPaint : public QObject {
+  public:
+    explicit FirstPaint(std::function<void()> whenPainted) : whenPainted_(std::move(whenPainted)) {
+        qApp->installEventFilter(this);
+    }
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const auto* widget = qobject_cast<QWidget*>(watched);
+        if (event->type() == QEvent::Paint && widget != nullptr && widget->isWindow()) {
+            qApp->removeEventFilter(this);
+            QTimer::singleShot(0, qApp, whenPainted_);
+        }
+        return false;
+    }
+
+  private:
+    std::function<void()> whenPainted_;
+};
+
+void closeFront(QtDesktop& desktop) {
+    if (Form* front = desktop.front()) front->close();
 }
 
 void emptyWindowOfTheToolkit(benchmark::State& state) {
     for (auto _ : state) {
         QDialog window;
         window.resize(760, 460);
-        QTimer::singleShot(0, &window, [&window] {
-            QCoreApplication::processEvents();
-            window.accept();
-        });
+        const FirstPaint paint([&window] { window.accept(); });
         window.exec();
     }
 }
@@ -71,7 +87,7 @@ void firstWindowOfTheProgram(benchmark::State& state) {
     Office office;
     for (auto _ : state) {
         Program program(office.files, office.desktop, office.staging, office.printing);
-        closeOnceShown(office.desktop);
+        const FirstPaint paint([&office] { closeFront(office.desktop); });
         program.run();
     }
 }
@@ -84,7 +100,7 @@ void screenOnShow(benchmark::State& state) {
     const Workplace workplace{office.files, office.desktop, office.staging, office.printing, none};
     for (auto _ : state) {
         const auto screen = std::make_unique<Screen>(workplace);
-        closeOnceShown(office.desktop);
+        const FirstPaint paint([&office] { closeFront(office.desktop); });
         office.desktop.show(screen->form);
     }
 }
