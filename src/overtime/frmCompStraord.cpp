@@ -1,6 +1,7 @@
 #include "overtime/frmCompStraord.h"
 
 #include "screens/date_entry.h"
+#include "screens/election_choice.h"
 #include "screens/well_done.h"
 #include "storage/numbers.h"
 
@@ -93,7 +94,7 @@ void frmCompStraord::Form_Activate() {
     Label47.text = format(rates->FonCre, Mask::digits);
 }
 
-Election frmCompStraord::election() const { return {std::string(trim(Combo1.text())), txtDataEle.text()}; }
+Election frmCompStraord::election() const { return electionIn(Combo1, txtDataEle); }
 
 Result<RecordFile<EmployeeRecord>> frmCompStraord::openEmployees() {
     const auto path = election().employeeFile();

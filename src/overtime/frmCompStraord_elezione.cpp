@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "overtime/frmCompStraord.h"
+#include "screens/election_choice.h"
 #include "screens/well_done.h"
-#include "storage/dates.h"
 #include "storage/numbers.h"
 
 namespace vorbano {
@@ -17,28 +17,14 @@ void frmCompStraord::txtNumDip_LostFocus() {
 }
 
 bool frmCompStraord::electionIsComplete() {
+    Control* missing = emptyForSearch(Combo1, txtDataEle);
     // A number that reads differently on screen and on file ("1.000", "13,5") is no number of employees.
     const auto employees = toInteger(txtNumDip.text());
     const bool isNumber = employees && *employees > 0 && *employees == numDip();
-    Control* missing = nullptr;
-    if (trim(Combo1.text()).empty()) {
-        missing = &Combo1;
-    } else if (trim(txtDataEle.text()).empty()) {
-        missing = &txtDataEle;
-    } else if (!isNumber) {
-        missing = &txtNumDip;
-    }
-    if (missing != nullptr) {
-        desk_.desktop.tell({"Dati incompleti per la ricerca", "Errore", Icon::warning});
-        form.focus(*missing);
-        return false;
-    }
-    if (!parseDate(txtDataEle.text()) || !election().folder()) {
-        desk_.desktop.tell({"Data di Elezione inesistente!", "Errore", Icon::warning});
-        form.focus(txtDataEle);
-        return false;
-    }
-    return true;
+    if (missing == nullptr && !isNumber) missing = &txtNumDip;
+    if (missing == nullptr) return dateOfElectionExists(Combo1, txtDataEle, desk_.desktop);
+    tellIncompleteSearch(*missing, desk_.desktop);
+    return false;
 }
 
 void frmCompStraord::cmdAttiva_Click() {

@@ -2,6 +2,7 @@
 
 #include "reports/impegno.h"
 #include "screens/date_entry.h"
+#include "screens/election_choice.h"
 #include "screens/well_done.h"
 #include "storage/codepage.h"
 
@@ -88,8 +89,6 @@ void frmTutteStampe::cmdImpegno_Click() {
 
 void frmTutteStampe::mnuEsci_Click() { form.close(); }
 
-Election frmTutteStampe::election() const {
-    return {std::string(trim(Combo1.text())), std::string(trim(txtDataEle.text()))};
-}
+Election frmTutteStampe::election() const { return electionIn(Combo1, txtDataEle); }
 
 }  // namespace vorbano

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/form.h"
 #include "storage/dates.h"
 
 namespace vorbano {
@@ -26,7 +27,10 @@ bool signum(TextBox& field, Desktop& desktop) {
 }
 
 void makeDateField(TextBox& field, Desktop& desktop) {
-    field.change.calls([&field, &desktop] { signum(field, desktop); });
+    // What the program shows in it, the name of a folder that is no date for one, is nobody's typing.
+    field.change.calls([&field, &desktop] {
+        if (field.form().focused() == &field) signum(field, desktop);
+    });
     field.lostFocus.calls([&field] {
         if (!isExcluded(field.text())) field.text = reformatDate(field.text());
     });
