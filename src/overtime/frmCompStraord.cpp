@@ -74,7 +74,7 @@ void frmCompStraord::Form_Activate() {
     if (cameUp_) return;
     cameUp_ = true;
     Dipendenti();
-    const auto file = loadParameters<ContribRates>(desk_.files, conprevFile);
+    const auto file = onlyRecord<ContribRates>(desk_.files, conprevFile);
     if (!wellDone(file ? Result<>() : file.error(), desk_.desktop)) {
         mnuModifica.enabled = false;
         mnuDipendenti.enabled = false;

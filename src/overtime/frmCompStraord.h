@@ -5,12 +5,12 @@
 #include <optional>
 
 #include "overtime/period_panel.h"
-#include "parameters/parameter_files.h"
 #include "parameters/tariff_records.h"
 #include "screens/well_done.h"
 #include "screens/workplace.h"
 #include "storage/election.h"
 #include "storage/list_files.h"
+#include "storage/only_record.h"
 #include "storage/record_file.h"
 
 namespace vorbano {
@@ -240,7 +240,7 @@ struct frmCompStraord {
 
 template <class Record>
 std::optional<Record> frmCompStraord::oneRecord(std::string_view path) const {
-    const auto record = loadParameters<Record>(desk_.files, path);
+    const auto record = onlyRecord<Record>(desk_.files, path);
     if (record) return *record;
     wellDone(record.error(), desk_.desktop);
     return std::nullopt;

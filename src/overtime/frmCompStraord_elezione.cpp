@@ -103,9 +103,9 @@ bool frmCompStraord::showActs() {
     const auto duedate = election().file(duedateFile);
     const auto meirin = election().file(meirinFile);
     if (!duedate || !meirin) return false;
-    const auto acts = loadParameters<DuedateRecord>(desk_.files, *duedate);
+    const auto acts = onlyRecord<DuedateRecord>(desk_.files, *duedate);
     if (!acts) return wellDone(acts.error(), desk_.desktop);
-    const auto limits = loadParameters<MeirinRecord>(desk_.files, *meirin);
+    const auto limits = onlyRecord<MeirinRecord>(desk_.files, *meirin);
     if (!limits) return wellDone(limits.error(), desk_.desktop);
     latePools_ = 0;
     if (const auto& record = *limits) {

@@ -122,7 +122,7 @@ Result<> frmCompStraord::storeName() {
 Result<> frmCompStraord::SalvaMeirin() {
     const auto path = election().file(meirinFile);
     if (!path) return path.error();
-    const auto stored = loadParameters<MeirinRecord>(desk_.files, *path);
+    const auto stored = onlyRecord<MeirinRecord>(desk_.files, *path);
     if (!stored) return stored.error();
     MeirinRecord record = stored->value_or(MeirinRecord{});
     for (std::size_t at = 0; at < periods.size(); ++at) {
@@ -131,7 +131,7 @@ Result<> frmCompStraord::SalvaMeirin() {
         // A freshly authorised election stands in liquidation; the clerk switches a period back for corrections.
         record.state[at] = 1;
     }
-    return storeParameters(desk_.files, *path, record);
+    return storeOnlyRecord(desk_.files, *path, record);
 }
 
 Result<> frmCompStraord::InsDate() {
@@ -141,7 +141,7 @@ Result<> frmCompStraord::InsDate() {
     DuedateRecord record;
     record.decreto = Label93.text();
     record.determina = Label94.text();
-    return storeParameters(desk_.files, *path, record);
+    return storeOnlyRecord(desk_.files, *path, record);
 }
 
 /// The pools of a changed number of employees go to every record of the election.

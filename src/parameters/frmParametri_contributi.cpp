@@ -3,8 +3,8 @@
 #include <string>
 
 #include "parameters/frmParametri.h"
-#include "parameters/parameter_files.h"
 #include "screens/well_done.h"
+#include "storage/only_record.h"
 
 namespace vorbano {
 
@@ -37,7 +37,7 @@ void frmParametri::makeContributionsPage() {
 }
 
 void frmParametri::loadContributions() {
-    const auto rates = loadParameters<ContribRates>(desk_.files, conprevFile);
+    const auto rates = onlyRecord<ContribRates>(desk_.files, conprevFile);
     if (!rates) {
         wellDone(rates.error(), desk_.desktop);
         return;
@@ -71,7 +71,7 @@ void frmParametri::cmdSalva2_Click() {
         if (!amount) return refuse(one.box.text(), one.box, one.field);
         rates.*percentageInfos[at].amount = *amount;
     }
-    wellDone(storeParameters(desk_.files, conprevFile, rates), desk_.desktop);
+    wellDone(storeOnlyRecord(desk_.files, conprevFile, rates), desk_.desktop);
 }
 
 }  // namespace vorbano

@@ -3,9 +3,9 @@
 #include <string>
 
 #include "parameters/frmParametri.h"
-#include "parameters/parameter_files.h"
 #include "screens/well_done.h"
 #include "storage/numbers.h"
+#include "storage/only_record.h"
 
 namespace vorbano {
 
@@ -30,7 +30,7 @@ void frmParametri::makeSecretariesPage() {
 }
 
 void frmParametri::loadSecretaries() {
-    const auto tariff = loadParameters<SecretaryTariff>(desk_.files, pmSegFile);
+    const auto tariff = onlyRecord<SecretaryTariff>(desk_.files, pmSegFile);
     if (!tariff) {
         wellDone(tariff.error(), desk_.desktop);
         return;
@@ -69,7 +69,7 @@ void frmParametri::cmdSalva1_Click() {
         tariff.rows[at].Caption = secretaries[at].box.text();
         tariff.rows[at].rates = {cents(rates->Day), cents(rates->Fn), cents(rates->Nf)};
     }
-    wellDone(storeParameters(desk_.files, pmSegFile, tariff), desk_.desktop);
+    wellDone(storeOnlyRecord(desk_.files, pmSegFile, tariff), desk_.desktop);
 }
 
 }  // namespace vorbano

@@ -3,9 +3,9 @@
 #include <string>
 
 #include "parameters/frmParametri.h"
-#include "parameters/parameter_files.h"
 #include "screens/well_done.h"
 #include "storage/numbers.h"
+#include "storage/only_record.h"
 
 namespace vorbano {
 
@@ -47,7 +47,7 @@ void frmParametri::makeStaffPage() {
 }
 
 void frmParametri::loadStaff() {
-    const auto table = loadParameters<TariffTable>(desk_.files, pmDipFile);
+    const auto table = onlyRecord<TariffTable>(desk_.files, pmDipFile);
     if (table && !*table) {
         say("Bisogna inserire i dati dei compensi orari dei dipendenti");
         cmdSalva.enabled = true;
@@ -109,7 +109,7 @@ void frmParametri::cmdSalva_Click() {
     const std::string mark(trim(Label31.text()));
     const auto table = tableOnScreen(mark);
     if (!table) return;
-    if (!wellDone(storeParameters(desk_.files, pmDipFile, *table), desk_.desktop)) return;
+    if (!wellDone(storeOnlyRecord(desk_.files, pmDipFile, *table), desk_.desktop)) return;
     // Setting it first lets the clearing reach every row, also those opened one by one.
     Check20.checked = true;
     Check20.checked = false;
@@ -119,12 +119,12 @@ void frmParametri::cmdSalva_Click() {
 
 void frmParametri::salvanuove() {
     if (const auto table = tableOnScreen("/"))
-        wellDone(storeParameters(desk_.files, newPmDipFile, *table), desk_.desktop);
+        wellDone(storeOnlyRecord(desk_.files, newPmDipFile, *table), desk_.desktop);
 }
 
 void frmParametri::salvavecchie() {
     if (const auto table = tableOnScreen("\\"))
-        wellDone(storeParameters(desk_.files, oldPmDipFile, *table), desk_.desktop);
+        wellDone(storeOnlyRecord(desk_.files, oldPmDipFile, *table), desk_.desktop);
 }
 
 }  // namespace vorbano

@@ -3,10 +3,10 @@
 #include <array>
 #include <cstddef>
 
-#include "reports/only_record.h"
 #include "storage/codepage.h"
 #include "storage/list_files.h"
 #include "storage/numbers.h"
+#include "storage/only_record.h"
 
 namespace vorbano {
 

@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "parameters/tariff_records.h"
-#include "reports/only_record.h"
 #include "screens/staging_value.h"
+#include "storage/only_record.h"
 
 namespace vorbano {
 

@@ -265,7 +265,9 @@ void Player::playGesture(const Line& line) {
 void Player::playScreenshot(const Line& line) {
     const auto path = outFile(line.name, stage_.out);
     if (!path) return fail("a name inside the folder for pictures", line.name);
-    if (const std::string trouble = hands_.takePicture(*path, formFor(line) == hands_.front() ? nullptr : target_); !trouble.empty()) return failAt(trouble);
+    if (const std::string trouble = hands_.takePicture(*path, formFor(line) == hands_.front() ? nullptr : target_);
+        !trouble.empty())
+        return failAt(trouble);
     advance();
 }
 

@@ -5,7 +5,7 @@
 #include "platform/failure_words.h"
 #include "screens/well_done.h"
 #include "storage/list_files.h"
-#include "storage/record_file.h"
+#include "storage/only_record.h"
 
 namespace vorbano {
 
@@ -115,11 +115,8 @@ void Form1::emptyTables() {
 }
 
 std::optional<std::string> Form1::storedEnte() {
-    const auto file = RecordFile<NameRecord>::open(desk_.files, enteFile);
-    const auto count = file ? file->count() : Result<int>(file.error());
-    if (count && *count == 0) return std::string();
-    const auto record = count ? file->read(1) : Result<NameRecord>(count.error());
-    if (record) return record->name.trimmed();
+    const auto record = onlyRecord<NameRecord>(desk_.files, enteFile);
+    if (record) return *record ? (*record)->name.trimmed() : std::string();
     wellDone(record.error(), desk_.desktop);
     return std::nullopt;
 }
@@ -169,9 +166,7 @@ void Form1::cmdSalva_Click() {
     }
     NameRecord record;
     record.name = txtEnte.text();
-    auto file = RecordFile<NameRecord>::open(desk_.files, enteFile);
-    const Result<> stored = file ? file->write(1, record) : Result<>(file.error());
-    if (!wellDone(stored, desk_.desktop)) return;
+    if (!wellDone(storeOnlyRecord(desk_.files, enteFile, record), desk_.desktop)) return;
     desk_.desktop.tell({"Operazione terminata", "Inserimento Ente", Icon::information});
     Frame1.visible = false;
     cmdApplica.visible = true;

@@ -4,9 +4,9 @@
 #include <gtest/gtest.h>
 
 #include "expected_tariffs.h"
-#include "parameters/parameter_files.h"
 #include "parameters/tariff_records.h"
 #include "storage/memory_file_system.h"
+#include "storage/only_record.h"
 #include "support/results.h"
 
 namespace vorbano::test {
@@ -28,13 +28,13 @@ TEST_P(VersionFiles, TheThirtyTwoRowsAreWrittenAtTheirOffsets) {
         const int euro = (row + 1) * 100;
         table.set(row, "/", {cent(euro + 1), cent(euro + 2), cent(euro + 3)});
     }
-    ASSERT_THAT(storeParameters(files, GetParam(), table), Succeeds());
+    ASSERT_THAT(storeOnlyRecord(files, GetParam(), table), Succeeds());
     EXPECT_EQ(toHex(contentOf(files, GetParam())), toHex(tariffBytes("/", distinctCents)));
 }
 
 TEST_P(VersionFiles, EveryRowIsReadFromItsOffsets) {
     ASSERT_TRUE(lay(files, GetParam(), tariffBytes("\\", distinctCents)));
-    const auto table = loadParameters<TariffTable>(files, GetParam());
+    const auto table = onlyRecord<TariffTable>(files, GetParam());
     ASSERT_TRUE(table.ok() && table->has_value());
     for (int row = 0; row < 32; ++row) {
         const ExpectedRow& expected = expectedRows[static_cast<std::size_t>(row)];
@@ -98,18 +98,18 @@ TEST_F(TariffFiles, TheFiveRowsOfTheSecretariesFollowEachOther) {
         tariff.rows[row].Caption = captions[row];
         tariff.rows[row].rates = {cent(euro + 1), cent(euro + 2), cent(euro + 3)};
     }
-    ASSERT_THAT(storeParameters(files, "Params/PmSeg.dat", tariff), Succeeds());
+    ASSERT_THAT(storeOnlyRecord(files, "Params/PmSeg.dat", tariff), Succeeds());
     EXPECT_EQ(toHex(contentOf(files, "Params/PmSeg.dat")), toHex(secretaryBytes(distinctCents)));
 }
 
 TEST_F(TariffFiles, ThePercentagesKeepFourDecimals) {
-    ASSERT_THAT(storeParameters(files, "Params/Conprev.dat",
+    ASSERT_THAT(storeOnlyRecord(files, "Params/Conprev.dat",
                                 ContribRates{Currency::fromUnits(238'000), Currency::fromUnits(85'000),
                                              Currency::fromUnits(88'512), Currency::fromUnits(3'500)}),
                 Succeeds());
     const std::string bytes = amount(23, 80) + amount(8, 50) + amount(8, 85, 12) + amount(0, 35);
     EXPECT_EQ(toHex(contentOf(files, "Params/Conprev.dat")), toHex(bytes));
-    const auto read = loadParameters<ContribRates>(files, "Params/Conprev.dat");
+    const auto read = onlyRecord<ContribRates>(files, "Params/Conprev.dat");
     ASSERT_TRUE(read.ok() && read->has_value());
     EXPECT_EQ((*read)->ContrPrev.units(), 238'000);
     EXPECT_EQ((*read)->IrapEnte.units(), 85'000);
@@ -118,20 +118,20 @@ TEST_F(TariffFiles, ThePercentagesKeepFourDecimals) {
 }
 
 TEST_F(TariffFiles, ANewFileHasNoDataAndIsMadeEmpty) {
-    const auto read = loadParameters<ContribRates>(files, "Params/Conprev.dat");
+    const auto read = onlyRecord<ContribRates>(files, "Params/Conprev.dat");
     ASSERT_TRUE(read.ok());
     EXPECT_FALSE(read->has_value());
     EXPECT_EQ(contentOf(files, "Params/Conprev.dat"), "");
 }
 
 TEST_F(TariffFiles, ATrailingBlankInTheNameIsTheSameFile) {
-    ASSERT_THAT(storeParameters(files, "Params/Conprev.dat ", ContribRates{}), Succeeds());
+    ASSERT_THAT(storeOnlyRecord(files, "Params/Conprev.dat ", ContribRates{}), Succeeds());
     EXPECT_EQ(contentOf(files, "Params/Conprev.dat"), nuls(32));
 }
 
 TEST_F(TariffFiles, AMissingFolderIsAFailure) {
-    EXPECT_THAT(loadParameters<ContribRates>(files, "Altro/Conprev.dat"), Fails(Failure::missingFolder));
-    EXPECT_THAT(storeParameters(files, "Altro/Conprev.dat", ContribRates{}), Fails(Failure::missingFolder));
+    EXPECT_THAT(onlyRecord<ContribRates>(files, "Altro/Conprev.dat"), Fails(Failure::missingFolder));
+    EXPECT_THAT(storeOnlyRecord(files, "Altro/Conprev.dat", ContribRates{}), Fails(Failure::missingFolder));
 }
 
 }  // namespace

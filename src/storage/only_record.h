@@ -1,6 +1,7 @@
 #pragma once
 
-// The parameter files hold one record each, which is read and written as a whole.
+// Many files hold exactly one record, or none yet: Ente.dat, the parameter files, Meirin.vbn, Duedate.vbn. It is read
+// and written as a whole.
 
 #include <optional>
 #include <string_view>
@@ -9,9 +10,10 @@
 
 namespace vorbano {
 
-/// Record 1 of the file; nothing when the file has no data yet. Opening creates the file empty.
+/// Record 1; nothing when the file has no data yet (opening creates it empty). A disk that does not answer is a failure
+/// and not an empty file: nothing must be printed or stored with a part left out.
 template <class Record>
-[[nodiscard]] Result<std::optional<Record>> loadParameters(FileSystem& files, std::string_view path) {
+[[nodiscard]] Result<std::optional<Record>> onlyRecord(FileSystem& files, std::string_view path) {
     const auto file = RecordFile<Record>::open(files, path);
     if (!file) return file.error();
     const auto count = file->count();
@@ -24,7 +26,7 @@ template <class Record>
 
 /// Writes record 1.
 template <class Record>
-[[nodiscard]] Result<> storeParameters(FileSystem& files, std::string_view path, const Record& record) {
+[[nodiscard]] Result<> storeOnlyRecord(FileSystem& files, std::string_view path, const Record& record) {
     auto file = RecordFile<Record>::open(files, path);
     if (!file) return file.error();
     return file->write(1, record);
