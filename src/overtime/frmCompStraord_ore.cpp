@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "overtime/frmCompStraord.h"
+#include "overtime/pay.h"
 #include "screens/well_done.h"
 #include "storage/dates.h"
 #include "storage/numbers.h"
@@ -309,7 +310,7 @@ void frmCompStraord::openRates(bool open) {
 
 void frmCompStraord::cmdCalcola_Click() {
     for (TextBox* field : {&txtCompDf, &txtCompNof, &txtCompNef}) {
-        if (const auto rate = toCurrency(field->text())) field->text = rateText(*rate);
+        if (const auto rate = rateFrom(field->text())) field->text = rateText(*rate);
     }
     openRates(false);
     cmdSalva.enabled = true;
