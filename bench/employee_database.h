@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <memory>
 
-#include "overtime/overtime_records.h"
+#include "records/overtime_records.h"
 
 namespace vorbano::bench {
 

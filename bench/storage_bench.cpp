@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "employee_database.h"
-#include "overtime/overtime_records.h"
 #include "overtime/pools.h"
+#include "records/overtime_records.h"
 #include "storage/disk_file_system.h"
 #include "storage/record_file.h"
 #include "support/temporary_folder.h"

@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
-#include "overtime/overtime_records.h"
-#include "parameters/tariff_records.h"
+#include "records/overtime_records.h"
+#include "records/tariff_records.h"
 #include "storage/list_files.h"
 #include "storage/memory_file_system.h"
 #include "storage/record_file.h"

@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "overtime/period_panel.h"
-#include "parameters/tariff_records.h"
+#include "records/tariff_records.h"
 #include "screens/well_done.h"
 #include "screens/workplace.h"
 #include "storage/election.h"

@@ -7,7 +7,7 @@
 #include <optional>
 #include <string_view>
 
-#include "overtime/overtime_records.h"
+#include "records/overtime_records.h"
 
 namespace vorbano {
 

@@ -7,9 +7,9 @@
 #include <cstdint>
 #include <string_view>
 
-#include "overtime/overtime_records.h"
 #include "overtime/pools.h"
 #include "platform/form.h"
+#include "records/overtime_records.h"
 
 namespace vorbano {
 

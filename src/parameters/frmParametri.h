@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "parameters/rate_entry.h"
-#include "parameters/tariff_records.h"
 #include "platform/form.h"
+#include "records/tariff_records.h"
 #include "screens/workplace.h"
 
 namespace vorbano {

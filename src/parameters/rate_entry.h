@@ -8,8 +8,8 @@
 #include <string>
 #include <string_view>
 
-#include "parameters/tariff_records.h"
 #include "platform/form.h"
+#include "records/tariff_records.h"
 
 namespace vorbano {
 

@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "overtime/overtime_records.h"
-#include "parameters/tariff_records.h"
+#include "records/overtime_records.h"
+#include "records/tariff_records.h"
 #include "storage/list_files.h"
 
 namespace vorbano {

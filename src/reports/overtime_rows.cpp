@@ -5,7 +5,7 @@
 #include <string_view>
 #include <utility>
 
-#include "parameters/tariff_records.h"
+#include "records/tariff_records.h"
 #include "screens/staging_value.h"
 #include "storage/only_record.h"
 

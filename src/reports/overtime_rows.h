@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "overtime/overtime_records.h"
 #include "platform/database.h"
+#include "records/overtime_records.h"
 #include "reports/heading.h"
 #include "storage/election.h"
 

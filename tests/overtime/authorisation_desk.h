@@ -14,7 +14,6 @@
 #include <string_view>
 #include <vector>
 
-#include "laid_out_records.h"
 #include "overtime/frmCompStraord.h"
 #include "platform/memory_database.h"
 #include "platform/operator.h"
@@ -22,6 +21,7 @@
 #include "platform/staging_tables.h"
 #include "storage/memory_file_system.h"
 #include "support/bytes.h"
+#include "support/laid_out_records.h"
 
 namespace vorbano::test {
 

@@ -10,7 +10,6 @@
 #include <string>
 #include <string_view>
 
-#include "expected_tariffs.h"
 #include "parameters/frmParametri.h"
 #include "platform/memory_database.h"
 #include "platform/operator.h"
@@ -18,6 +17,7 @@
 #include "platform/staging_tables.h"
 #include "storage/memory_file_system.h"
 #include "support/bytes.h"
+#include "support/expected_tariffs.h"
 
 namespace vorbano::test {
 

@@ -4,12 +4,12 @@
 #include <fstream>
 #include <iterator>
 
-#include "parameters/tariff_records.h"
 #include "platform/memory_database.h"
 #include "platform/scripted_desktop.h"
 #include "platform/staging_tables.h"
 #include "program/program.h"
 #include "program/record_files.h"
+#include "records/tariff_records.h"
 #include "storage/memory_file_system.h"
 
 namespace vorbano::test {

@@ -3,10 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "expected_tariffs.h"
-#include "parameters/tariff_records.h"
+#include "records/tariff_records.h"
 #include "storage/memory_file_system.h"
 #include "storage/only_record.h"
+#include "support/expected_tariffs.h"
 #include "support/results.h"
 
 namespace vorbano::test {

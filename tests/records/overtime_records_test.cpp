@@ -1,14 +1,14 @@
-#include "overtime/overtime_records.h"
+#include "records/overtime_records.h"
 
 #include <gmock/gmock.h>
 
 #include <string>
 #include <vector>
 
-#include "laid_out_records.h"
 #include "storage/memory_file_system.h"
 #include "storage/record_file.h"
 #include "support/bytes.h"
+#include "support/laid_out_records.h"
 #include "support/results.h"
 
 namespace vorbano {

@@ -1,4 +1,4 @@
-#include "parameters/tariff_records.h"
+#include "records/tariff_records.h"
 
 #include <algorithm>
 #include <cstring>

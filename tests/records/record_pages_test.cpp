@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "overtime/overtime_records.h"
-#include "parameters/tariff_records.h"
 #include "record_page.h"
+#include "records/overtime_records.h"
+#include "records/tariff_records.h"
 #include "storage/list_files.h"
 #include "support/bytes.h"
 
