@@ -7,21 +7,14 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <memory>
 #include <set>
-#include <stdexcept>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "overtime/frmCompStraord.h"
-#include "platform/memory_database.h"
-#include "platform/operator.h"
-#include "platform/scripted_desktop.h"
-#include "platform/staging_tables.h"
-#include "storage/memory_file_system.h"
 #include "support/bytes.h"
 #include "support/laid_out_records.h"
+#include "support/screen_desk.h"
 
 namespace vorbano::test {
 
@@ -68,15 +61,6 @@ namespace vorbano::test {
     return amount(23, 80) + amount(8, 50) + amount(8, 80) + amount(0, 35);
 }
 
-/// Remembers which screens were opened.
-class OpenedScreens : public Screens {
-  public:
-    std::vector<std::string> opened;
-    [[nodiscard]] bool has(std::string_view) const override { return true; }
-    void open(std::string_view name) override { opened.emplace_back(name); }
-};
-
-using Answer = ScriptedDesktop::Answer;
 using Dates = std::array<const char*, 2>;
 
 /// The sentences that come back in many tests.
@@ -89,44 +73,15 @@ inline constexpr const char* noName = "Inserire il nominativo";
            std::to_string(count) + " Dipendenti. L'ultimo nominativo inserito è " + lastName;
 }
 
-class AuthorisationTest : public ::testing::Test {
+class AuthorisationTest : public ScreenDesk<frmCompStraord> {
   protected:
     AuthorisationTest() {
         EXPECT_TRUE(lay(files, "Params/PmDip.dat", pmDipBytes()));
         EXPECT_TRUE(lay(files, "Params/PmSeg.dat", pmSegBytes()));
         EXPECT_TRUE(lay(files, "Params/Conprev.dat", conprevBytes()));
     }
-    ~AuthorisationTest() override {
-        if (screen) desktop.shut(screen->form);
-        EXPECT_THAT(desktop.finish(), ::testing::IsEmpty());
-    }
 
-    void open() { openOn(files); }
-    void openOn(FileSystem& disk) {
-        if (screen) desktop.shut(screen->form);
-        screen = std::make_unique<frmCompStraord>(Workplace{disk, desktop, staging, printing, screens});
-        desktop.open(screen->form);
-    }
-
-    // What the clerk sees.
-    Control& control(std::string_view name) {
-        Control* found = screen->form.find(name);
-        if (found == nullptr) throw std::invalid_argument("no control " + std::string(name));
-        return *found;
-    }
-    std::string text(std::string_view name) { return control(name).shownText(); }
-    bool visible(std::string_view name) { return control(name).isVisible(); }
-    bool operable(std::string_view name) {
-        Control& found = control(name);
-        if (found.kind() == Kind::menuEntry) return dynamic_cast<MenuEntry&>(found).canBeChosen();
-        return found.isOperable();
-    }
-    bool ticked(std::string_view name) { return dynamic_cast<CheckBox&>(control(name)).checked(); }
-    std::string focused() {
-        const Control* found = screen->form.focused();
-        return found == nullptr ? "nothing" : found->name();
-    }
-    std::string cell(int row, int column) { return screen->MSFlexGrid1.cell(row, column); }
+    std::string cell(int row, int column) { return ScreenDesk::cell("MSFlexGrid1", row, column); }
     /// The three figures of a period: "limit pool average".
     std::string figures(int period) {
         constexpr std::array<std::array<const char*, 3>, 3> labels = {
@@ -135,30 +90,7 @@ class AuthorisationTest : public ::testing::Test {
         return text(row[0]) + " " + text(row[1]) + " " + text(row[2]);
     }
 
-    // What the clerk does.
-    Operator clerk() { return Operator(screen->form); }
-    void type(std::string_view name, std::string_view words) {
-        EXPECT_EQ(clerk().type(control(name), words), Refusal::none) << name;
-    }
-    void enter(std::string_view name) { EXPECT_EQ(clerk().enter(control(name)), Refusal::none) << name; }
-    void leave() { clerk().leave(); }
-    void click(std::string_view name) { EXPECT_EQ(clerk().click(control(name)), Refusal::none) << name; }
-    void tick(std::string_view name, bool on = true) {
-        EXPECT_EQ(clerk().tick(control(name), on), Refusal::none) << name;
-    }
-    void choose(std::string_view name, std::string_view item) {
-        EXPECT_EQ(clerk().choose(control(name), item), Refusal::none) << name;
-    }
-    void chooseIndex(std::string_view name, int index) {
-        EXPECT_EQ(clerk().chooseIndex(control(name), index), Refusal::none) << name;
-    }
-    void menu(std::string_view name) { EXPECT_EQ(clerk().menu(control(name)), Refusal::none) << name; }
-    void pick(int row, int column) {
-        EXPECT_EQ(clerk().pick(control("MSFlexGrid1"), row, column), Refusal::none) << row << " " << column;
-    }
-    void box(std::string title, std::string words, Answer answer = Answer::ok) {
-        desktop.box(std::move(title), std::move(words), answer);
-    }
+    void pick(int row, int column) { ScreenDesk::pick("MSFlexGrid1", row, column); }
 
     // The road of an election: type, date and number; acts; periods; name, hours, rates.
     void identify(const char* kind, const char* date, const char* number) {
@@ -236,13 +168,6 @@ class AuthorisationTest : public ::testing::Test {
         return from < all.size() ? all.substr(from, 301) : std::string(noFile);
     }
     std::string names() { return contentOf(files, "Params/Dipend.dat"); }
-
-    MemoryFileSystem files;
-    ScriptedDesktop desktop;
-    MemoryDatabase staging{stagingTables()};
-    RecordingPrintEngine printing;
-    OpenedScreens screens;
-    std::unique_ptr<frmCompStraord> screen;
 };
 
 /// Employee `number` of the election of `toName()`, entered by `enterEmployee()`.
