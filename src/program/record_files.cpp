@@ -3,6 +3,10 @@
 #include <array>
 
 #include "records/overtime_records.h"
+#include "records/payment_records.h"
+#include "records/statement_records.h"
+#include "records/station_records.h"
+#include "records/station_tariff_records.h"
 #include "records/tariff_records.h"
 #include "storage/list_files.h"
 
@@ -19,11 +23,33 @@ std::span<const RecordInfo> recordFiles() {
         RecordInfo{"PmDipc.dat", sizeof(DatedTariffRow), datedTariffFields},
         RecordInfo{"PmSeg.dat", sizeof(SecretaryTariff), secretaryFields()},
         RecordInfo{"Conprev.dat", sizeof(ContribRates), contribFields},
+        RecordInfo{"Tarseg.dat", sizeof(NormalTariff), tarsegFields},
+        RecordInfo{"TarSpec.dat", sizeof(SpecialTariff), tarSpecFields},
+        RecordInfo{"Tarmag.dat", sizeof(NormalTariff), tarmagFields},
+        RecordInfo{"Tarmagsp.dat", sizeof(SpecialTariff), tarmagspFields},
         RecordInfo{"<data>.vbn", sizeof(EmployeeRecord), employeeFields},
         RecordInfo{"Quartum.vbn", sizeof(LatePeriodRecord), quartumFields},
         RecordInfo{"Pentium.vbn", sizeof(LatePeriodRecord), pentiumFields},
         RecordInfo{"Meirin.vbn", sizeof(MeirinRecord), meirinFields},
         RecordInfo{"Duedate.vbn", sizeof(DuedateRecord), duedateFields},
+        RecordInfo{seggiFile, sizeof(MemberRecord), memberFields},
+        RecordInfo{specialeFile, sizeof(MemberRecord), memberFields},
+        RecordInfo{seggiRevFile, sizeof(MemberRecord), memberFields},
+        RecordInfo{sosSeggiFile, sizeof(SubstituteRecord), substituteFields},
+        RecordInfo{sosSpecFile, sizeof(SubstituteRecord), substituteFields},
+        RecordInfo{revSosSeggiFile, sizeof(SubstituteRecord), substituteFields},
+        RecordInfo{revSosSpecFile, sizeof(SubstituteRecord), substituteFields},
+        RecordInfo{segSufFile, sizeof(SegSufRecord), segSufFields},
+        RecordInfo{sosSegSufFile, sizeof(SosSegSufRecord), sosSegSufFields},
+        RecordInfo{specSufrFile, sizeof(SpecSufrRecord), specSufrFields},
+        RecordInfo{sspecSufrFile, sizeof(SspecSufrRecord), sspecSufrFields},
+        RecordInfo{"Rendi.vbn", sizeof(RendiRecord), rendiFields},
+        RecordInfo{"DivSt.vbn", sizeof(DivStRecord), divStFields},
+        RecordInfo{"Tprov.vbn", sizeof(TprovRecord), tprovFields},
+        RecordInfo{versumFile, sizeof(PaymentRecord), paymentFields},
+        RecordInfo{versumcFile, sizeof(PaymentRecord), paymentFields},
+        RecordInfo{reversumFile, sizeof(PaymentRecord), paymentFields},
+        RecordInfo{meirincFile, sizeof(MeirincRecord), meirincFields},
     };
     return files;
 }

@@ -98,6 +98,13 @@ struct MeirinRecord {
     Currency inailDue;
 };
 
+/// RevMeirin.vbn, the companion of Meirin.vbn in the removal of an employee: the first 62 bytes of its record.
+/// Deliberately no more, so that a removal ends the INPS amount, its date and the second INAIL amount.
+struct RevMeirinRecord {
+    std::array<std::byte, 62> kept;
+};
+static_assert(sizeof(RevMeirinRecord) == offsetof(MeirinRecord, inps));
+
 /// Duedate.vbn: exactly one record, the dates of the two acts of the authorisation.
 struct DuedateRecord {
     DateText decreto;
@@ -108,7 +115,15 @@ inline constexpr std::string_view meirinFile = "Meirin.vbn";
 inline constexpr std::string_view duedateFile = "Duedate.vbn";
 inline constexpr std::string_view quartumFile = "Quartum.vbn";
 inline constexpr std::string_view pentiumFile = "Pentium.vbn";
+/// Companions in a removal; Reverse.vbn in every rewrite of the employees.
 inline constexpr std::string_view reverseFile = "Reverse.vbn";
+inline constexpr std::string_view revMeirinFile = "RevMeirin.vbn";
+inline constexpr std::string_view rQuartumFile = "RQuartum.vbn";
+inline constexpr std::string_view rPentiumFile = "RPentium.vbn";
+/// Companions in every other rewrite of the late periods: those of a removal tell, when they are found without
+/// Reverse.vbn, that it must be brought to its end.
+inline constexpr std::string_view nQuartumFile = "NQuartum.vbn";
+inline constexpr std::string_view nPentiumFile = "NPentium.vbn";
 
 inline constexpr FieldInfo employeeFields[] = {
     {"MonteOre", "txtMonteOre", 0, 2, FieldType::integer},

@@ -11,6 +11,10 @@
 
 #include "record_page.h"
 #include "records/overtime_records.h"
+#include "records/payment_records.h"
+#include "records/statement_records.h"
+#include "records/station_records.h"
+#include "records/station_tariff_records.h"
 #include "records/tariff_records.h"
 #include "storage/list_files.h"
 #include "support/bytes.h"
@@ -41,11 +45,29 @@ const std::vector<PageCase>& pages() {
         {"pmdipc.md", {"PmDipc.dat"}, sizeof(DatedTariffRow), datedTariffFields},
         {"pmseg.md", {"PmSeg.dat"}, sizeof(SecretaryTariff), secretaryFields()},
         {"conprev.md", {"Conprev.dat"}, sizeof(ContribRates), contribFields},
+        {"tarseg.md", {"Tarseg.dat"}, sizeof(NormalTariff), tarsegFields},
+        {"tarspec.md", {"TarSpec.dat"}, sizeof(SpecialTariff), tarSpecFields},
+        {"tarmag.md", {"Tarmag.dat"}, sizeof(NormalTariff), tarmagFields},
+        {"tarmagsp.md", {"Tarmagsp.dat"}, sizeof(SpecialTariff), tarmagspFields},
         {"data.md", {"<data>.vbn"}, sizeof(EmployeeRecord), employeeFields},
         {"quartum.md", {std::string(quartumFile)}, sizeof(LatePeriodRecord), quartumFields},
         {"pentium.md", {std::string(pentiumFile)}, sizeof(LatePeriodRecord), pentiumFields},
         {"meirin.md", {std::string(meirinFile)}, sizeof(MeirinRecord), meirinFields},
         {"duedate.md", {std::string(duedateFile)}, sizeof(DuedateRecord), duedateFields},
+        {"seggi.md", {"Seggi.vbn", "Speciale.vbn", "SeggiRev.vbn"}, sizeof(MemberRecord), memberFields},
+        {"sosseggi.md",
+         {"SosSeggi.vbn", "SosSpec.vbn", "RevSosSeggi.vbn", "RevSosSpec.vbn"},
+         sizeof(SubstituteRecord),
+         substituteFields},
+        {"segsuf.md", {"SegSuf.vbn"}, sizeof(SegSufRecord), segSufFields},
+        {"sossegsuf.md", {"SosSegSuf.vbn"}, sizeof(SosSegSufRecord), sosSegSufFields},
+        {"specsufr.md", {"SpecSufr.vbn"}, sizeof(SpecSufrRecord), specSufrFields},
+        {"sspecsufr.md", {"SspecSufr.vbn"}, sizeof(SspecSufrRecord), sspecSufrFields},
+        {"rendi.md", {std::string(rendiFile)}, sizeof(RendiRecord), rendiFields},
+        {"divst.md", {std::string(divStFile)}, sizeof(DivStRecord), divStFields},
+        {"tprov.md", {std::string(tprovFile)}, sizeof(TprovRecord), tprovFields},
+        {"versum.md", {"Versum.vbn", "Versumc.vbn", "Reversum.vbn"}, sizeof(PaymentRecord), paymentFields},
+        {"meirinc.md", {std::string(meirincFile)}, sizeof(MeirincRecord), meirincFields},
     };
     return all;
 }
