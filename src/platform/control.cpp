@@ -54,7 +54,19 @@ TextBox::TextBox(Container& parent, std::string name, int length)
     : Control(parent, Kind::textBox, std::move(name)), maxLength(length) {}
 
 void TextBox::changed(Aspect aspect) {
-    if (aspect == Aspect::text) change.fire();
+    if (aspect != Aspect::text) return;
+    markedFrom = -1;
+    change.fire();
+}
+
+void TextBox::typed(std::string words) {
+    const bool sameAgain = markedFrom() >= 0 && words == text();
+    markedFrom = -1;
+    if (sameAgain) {
+        change.fire();
+    } else {
+        text = std::move(words);
+    }
 }
 
 Label::Label(Container& parent, std::string name, std::string caption)

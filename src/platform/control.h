@@ -42,7 +42,7 @@ enum class Kind : std::uint8_t {
 enum class Aspect : std::uint8_t { text, enabled, visible, locked, checked, items, selection, cells, tone, interval };
 
 /// A colour that means something to the clerk. The window knows the colours.
-enum class Tone : std::uint8_t { plain, done, active, oldTariffs, newTariffs };
+enum class Tone : std::uint8_t { plain, done, active, wrong, oldTariffs, newTariffs };
 
 /// A value of a control. An assignment that changes it tells the window and the event procedures, whoever made it, the
 /// program or the operator; one that does not change it is silent.
@@ -137,12 +137,18 @@ class TextBox : public Control {
     Property<std::string> text{*this, Aspect::text};
     /// Legible, not changeable by the operator.
     Property<bool> locked{*this, Aspect::locked, false};
+    Property<Tone> tone{*this, Aspect::tone, Tone::plain};
+    /// From this byte of the text to its end it is marked, and the next key takes the place of what is marked; -1 is
+    /// nothing. Set by the program after it has completed what the operator typed; a change of the text ends it.
+    Property<int> markedFrom{*this, Aspect::selection, -1};
     /// The most characters that can be typed; 0 is no limit. The program itself may assign more.
     int maxLength = 0;
     /// After every change of the text, key by key.
     Event change;
 
     TextBox(Container& parent, std::string name, int length = 0);
+    /// The field holds `words` after a key of the operator. A key that writes again what was marked is a change too.
+    void typed(std::string words);
     [[nodiscard]] bool isLocked() const override { return locked(); }
     [[nodiscard]] std::string shownText() const override { return text(); }
 
@@ -251,6 +257,7 @@ class ListBox : public ItemControl {
 class Grid : public Control {
   public:
     Property<std::vector<Lines>> cells{*this, Aspect::cells};
+    Property<Tone> tone{*this, Aspect::tone, Tone::plain};
     /// A cell was picked: `row`, `column`.
     Event picked;
     int row = 0;

@@ -55,6 +55,10 @@ class Database {
     virtual Result<> append(std::string_view table, const Row& row) = 0;
     /// Row `number` from 1 in order of appending.
     virtual Result<Row> read(std::string_view table, int number) = 0;
+    /// Up to `rows` rows whose text in `field` is `text` or comes after it, in the order of that field (bytes, and for
+    /// equal texts the order of appending). With an index on the field it costs the same in a table of any size.
+    virtual Result<std::vector<Row>> seek(std::string_view table, std::string_view field, std::string_view text,
+                                          int rows) = 0;
     /// Deletes row after row from the first one, up to `rows`; stops at the end of the table.
     virtual Result<> removeFirst(std::string_view table, int rows) = 0;
     virtual Result<> removeAll(std::string_view table) = 0;

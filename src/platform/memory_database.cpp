@@ -1,6 +1,8 @@
 #include "platform/memory_database.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <iterator>
 
 #include "platform/column_value.h"
 
@@ -47,6 +49,29 @@ Result<Row> MemoryDatabase::read(std::string_view table, int number) {
         return Error{Failure::notFound, std::string(table)};
     }
     return found->rows[static_cast<std::size_t>(number) - 1];
+}
+
+Result<std::vector<Row>> MemoryDatabase::seek(std::string_view table, std::string_view field, std::string_view text,
+                                              int rows) {
+    const Table* found = find(table);
+    if (found == nullptr) return Error{Failure::notFound, std::string(table)};
+    const auto& columns = found->info.columns;
+    if (std::none_of(columns.begin(), columns.end(),
+                     [&](const Column& one) { return sameTableName(one.name, field); })) {
+        return Error{Failure::notFound, std::string(table) + "." + std::string(field)};
+    }
+    const auto textOf = [&](const Row& row) {
+        const Value* value = row.find(field);
+        const auto* words = value == nullptr ? nullptr : std::get_if<std::string>(value);
+        return words == nullptr ? std::string() : *words;
+    };
+    std::vector<Row> sought;
+    std::copy_if(found->rows.begin(), found->rows.end(), std::back_inserter(sought),
+                 [&](const Row& row) { return row.find(field) != nullptr && textOf(row) >= text; });
+    std::stable_sort(sought.begin(), sought.end(),
+                     [&](const Row& one, const Row& other) { return textOf(one) < textOf(other); });
+    sought.resize(std::min(sought.size(), static_cast<std::size_t>(std::max(rows, 0))));
+    return sought;
 }
 
 Result<> MemoryDatabase::removeFirst(std::string_view table, int rows) {

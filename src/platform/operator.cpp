@@ -71,10 +71,11 @@ Refusal Operator::type(Control& control, std::string_view text) {
         const std::size_t length = std::min(characterLength(text.front()), text.size());
         const std::string_view key = text.substr(0, length);
         text.remove_prefix(length);
-        const std::string before = first ? std::string() : box.text();
+        std::string before = first ? std::string() : box.text();
+        if (!first && box.markedFrom() >= 0) before.resize(static_cast<std::size_t>(box.markedFrom()));
         first = false;
         if (box.maxLength != 0 && characters(before) >= box.maxLength) continue;
-        box.text = before + std::string(key);
+        box.typed(before + std::string(key));
         if (form_.focused() != &control) break;
     }
     form_.settleFocus();
@@ -85,7 +86,7 @@ Refusal Operator::edit(Control& control, std::string_view text) {
     if (control.kind() != Kind::textBox) return Refusal::wrongKind;
     if (const Refusal why = refusal(control); why != Refusal::none) return why;
     if (!reaches(control)) return Refusal::none;
-    static_cast<TextBox&>(control).text = std::string(text);
+    static_cast<TextBox&>(control).typed(std::string(text));
     form_.settleFocus();
     return Refusal::none;
 }

@@ -27,6 +27,7 @@ struct Workplace {
     Database& staging;  ///< dbStampa.mdb
     PrintEngine& printing;
     Screens& screens;
+    Database& places;  ///< Comuni.mdb
 };
 
 }  // namespace vorbano

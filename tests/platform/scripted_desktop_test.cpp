@@ -106,4 +106,12 @@ TEST_F(Script, TheRecordingPrinterLetsATestLookWhileTheTablesAreFull) {
     EXPECT_EQ(printing.jobs.front().title, "IMPEGNO DI SPESA");
 }
 
+TEST_F(Script, TheRecordingPrinterKeepsPlainPages) {
+    RecordingPrintEngine printing;
+    EXPECT_TRUE(printing.printPage({"Resoconto", "Comune di Lesa", {"uno", "due"}}).ok());
+    ASSERT_EQ(printing.pages.size(), 1U);
+    EXPECT_EQ(printing.pages.front().lines, (std::vector<std::string>{"uno", "due"}));
+    EXPECT_TRUE(printing.jobs.empty());
+}
+
 }  // namespace

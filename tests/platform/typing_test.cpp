@@ -31,6 +31,41 @@ TEST_F(Typing, EveryKeyIsAChange) {
     EXPECT_EQ(form.focused(), &field);
 }
 
+/// A field that completes what is typed, as the search for a municipality does.
+struct Completing : Typing {
+    Completing() {
+        field.change.calls([this] {
+            if (field.text() != "R" && field.text() != "RO") return;
+            const auto typed = static_cast<int>(field.text().size());
+            field.text = std::string("ROMA");
+            field.markedFrom = typed;
+        });
+    }
+};
+
+TEST_F(Completing, TheNextKeyTakesThePlaceOfWhatIsMarked) {
+    EXPECT_EQ(clerk.type(field, "RO"), Refusal::none);
+    EXPECT_EQ(field.text(), "ROMA");
+    EXPECT_EQ(field.markedFrom(), 2);
+    EXPECT_EQ(clerk.type(field, "ROS"), Refusal::none);
+    EXPECT_EQ(field.text(), "ROS");
+    EXPECT_EQ(field.markedFrom(), -1);
+}
+
+TEST_F(Completing, AKeyThatWritesWhatIsMarkedIsAChange) {
+    EXPECT_EQ(clerk.type(field, "R"), Refusal::none);
+    seen.clear();
+    EXPECT_EQ(clerk.edit(field, "ROMA"), Refusal::none);
+    EXPECT_THAT(seen, ElementsAre("ROMA"));
+    EXPECT_EQ(field.markedFrom(), -1);
+}
+
+TEST_F(Completing, AnyChangeOfTheTextEndsTheMark) {
+    EXPECT_EQ(clerk.type(field, "R"), Refusal::none);
+    field.text = std::string("MILANO");
+    EXPECT_EQ(field.markedFrom(), -1);
+}
+
 TEST_F(Typing, TheFirstKeyReplacesWhatStoodThere) {
     field.text = std::string("12");
     seen.clear();

@@ -98,6 +98,38 @@ TEST_P(DatabaseContract, RowsAreReadInTheOrderOfAppending) {
     EXPECT_EQ(shown(4, "Nome"), "(no row)");
 }
 
+TEST_P(DatabaseContract, SeekingBeginsAtTheTextOrAtTheFirstOneBehindIt) {
+    appendNames({"Rossi", "Bianchi", "Amati", "Rossini"});
+    const auto names = [&](std::string_view text, int rows) {
+        std::vector<std::string> found;
+        const auto sought = database->seek("Voci", "Nome", text, rows);
+        if (!sought) return std::vector<std::string>{"(failure)"};
+        for (const Row& row : *sought) found.push_back(shownValue(*row.find("Nome")));
+        return found;
+    };
+    EXPECT_THAT(names("Bianchi", 2), ::testing::ElementsAre("Bianchi", "Rossi"));
+    EXPECT_THAT(names("C", 9), ::testing::ElementsAre("Rossi", "Rossini"));
+    EXPECT_THAT(names("", 1), ::testing::ElementsAre("Amati"));
+    EXPECT_THAT(names("Rossinib", 9), ::testing::IsEmpty());
+    EXPECT_THAT(names("A", 0), ::testing::IsEmpty());
+}
+
+TEST_P(DatabaseContract, SeekingGivesEqualTextsInTheOrderOfAppending) {
+    for (int number = 1; number <= 3; ++number) {
+        ASSERT_THAT(database->append("Voci", Row().setText("Nome", "Rossi").setWhole("Numero", number)), Succeeds());
+    }
+    const auto sought = database->seek("VOCI", "nome", "Rossi", 3);
+    ASSERT_THAT(sought, Succeeds());
+    ASSERT_EQ(sought->size(), 3U);
+    EXPECT_EQ(shownValue(*sought->front().find("Numero")), "1");
+    EXPECT_EQ(shownValue(*sought->back().find("Numero")), "3");
+}
+
+TEST_P(DatabaseContract, SeekingInATableOrFieldThatIsNotThereIsNotFound) {
+    EXPECT_THAT(database->seek("Manca", "Nome", "x", 1), Fails(Failure::notFound));
+    EXPECT_THAT(database->seek("Voci", "Manca", "x", 1), Fails(Failure::notFound));
+}
+
 TEST_P(DatabaseContract, TablesAreApart) {
     appendNames({"Bianchi"});
     EXPECT_THAT(database->count("Altre"), Gives(0));

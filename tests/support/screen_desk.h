@@ -20,6 +20,7 @@
 #include "screens/workplace.h"
 #include "storage/memory_file_system.h"
 #include "support/bytes.h"
+#include "support/places.h"
 
 namespace vorbano::test {
 
@@ -45,7 +46,7 @@ class ScreenDesk : public ::testing::Test {
     void open() { openOn(files); }
     void openOn(FileSystem& disk) {
         if (screen) desktop.shut(screen->form);
-        screen = std::make_unique<ScreenType>(Workplace{disk, desktop, staging, printing, screens});
+        screen = std::make_unique<ScreenType>(Workplace{disk, desktop, staging, printing, screens, places});
         desktop.open(screen->form);
     }
 
@@ -107,6 +108,7 @@ class ScreenDesk : public ::testing::Test {
     MemoryFileSystem files;
     ScriptedDesktop desktop;
     MemoryDatabase staging{stagingTables()};
+    MemoryDatabase places{placeTables()};
     RecordingPrintEngine printing;
     OpenedScreens screens;
     std::unique_ptr<ScreenType> screen;

@@ -6,6 +6,7 @@
 #include <QSqlQuery>
 #include <QUrl>
 #include <QVariant>
+#include <algorithm>
 #include <atomic>
 
 #include "platform/column_value.h"
@@ -105,6 +106,16 @@ struct SqliteDatabase::Table {
     std::vector<ColumnType> types;
     /// Prepared at the first append.
     std::optional<QSqlQuery> insertion;
+
+    /// The row that the query stands on; its columns are the table's.
+    [[nodiscard]] Row rowOf(const QSqlQuery& query) const {
+        Row row;
+        for (std::size_t at = 0; at < columns.size(); ++at) {
+            const QVariant value = query.value(static_cast<int>(at));
+            if (!value.isNull()) row.set(columnNames[at], fromVariant(value, types[at]));
+        }
+        return row;
+    }
 
     [[nodiscard]] int find(std::string_view column) const {
         for (std::size_t at = 0; at < columnNames.size(); ++at) {
@@ -267,12 +278,27 @@ Result<Row> SqliteDatabase::read(std::string_view name, int number) {
     query.bindValue(0, number - 1);
     if (!query.exec()) return fail(query).error();
     if (number < 1 || !query.next()) return Error{Failure::notFound, std::string(name)};
-    Row row;
-    for (std::size_t at = 0; at < from.columns.size(); ++at) {
-        const QVariant value = query.value(static_cast<int>(at));
-        if (!value.isNull()) row.set(from.columnNames[at], fromVariant(value, from.types[at]));
-    }
-    return row;
+    return from.rowOf(query);
+}
+
+Result<std::vector<Row>> SqliteDatabase::seek(std::string_view name, std::string_view field, std::string_view text,
+                                              int rows) {
+    const auto found = table(name);
+    if (!found) return found.error();
+    const Table& from = **found;
+    const int at = from.find(field);
+    if (at < 0) return Error{Failure::notFound, std::string(name) + "." + std::string(field)};
+    const QString column = quoted(from.columns[static_cast<std::size_t>(at)]);
+    QSqlQuery query(QSqlDatabase::database(connectionName_, false));
+    query.setForwardOnly(true);
+    query.prepare("SELECT * FROM " + quoted(from.name) + " WHERE " + column + " >= ? ORDER BY " + column +
+                  ", rowid LIMIT ?");
+    query.bindValue(0, QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    query.bindValue(1, std::max(rows, 0));
+    if (!query.exec()) return fail(query).error();
+    std::vector<Row> sought;
+    while (query.next()) sought.push_back(from.rowOf(query));
+    return sought;
 }
 
 Result<> SqliteDatabase::removeFirst(std::string_view name, int rows) {

@@ -43,6 +43,8 @@ class SqliteDatabase : public Database {
     Result<int> count(std::string_view table) override;
     Result<> append(std::string_view table, const Row& row) override;
     Result<Row> read(std::string_view table, int number) override;
+    Result<std::vector<Row>> seek(std::string_view table, std::string_view field, std::string_view text,
+                                  int rows) override;
     Result<> removeFirst(std::string_view table, int rows) override;
     Result<> removeAll(std::string_view table) override;
     Result<> begin() override;
