@@ -36,11 +36,13 @@ bool EmployeeDatabase::fill(int count, const EmployeeRecord& employee) {
     return true;
 }
 
-bool EmployeeDatabase::addToRunningTotals(int hours) {
-    const Statement update = prepare("UPDATE employees SET MoUtil = MoUtil + ?");
-    if (!update || !run("BEGIN")) return false;
-    sqlite3_bind_int(update.get(), 1, hours);
-    return sqlite3_step(update.get()) == SQLITE_DONE && run("COMMIT");
+bool EmployeeDatabase::saveFirst(const EmployeeRecord& employee, int hours) {
+    const Statement own = prepare("UPDATE employees SET rest = ? WHERE number = 1");
+    const Statement totals = prepare("UPDATE employees SET MoUtil = MoUtil + ?");
+    if (!own || !totals || !run("BEGIN")) return false;
+    sqlite3_bind_blob(own.get(), 1, &employee, sizeof(employee) - sizeof(Integer), SQLITE_STATIC);
+    sqlite3_bind_int(totals.get(), 1, hours);
+    return sqlite3_step(own.get()) == SQLITE_DONE && sqlite3_step(totals.get()) == SQLITE_DONE && run("COMMIT");
 }
 
 int EmployeeDatabase::lastRunningTotal() {

@@ -18,8 +18,8 @@ class EmployeeDatabase {
 
     /// Everything went well up to here.
     [[nodiscard]] bool ok() const { return ok_; }
-    /// Adds `hours` to the running total of all employees, in one transaction.
-    bool addToRunningTotals(int hours);
+    /// Stores the first employee and adds `hours` to the running total of all, in one transaction.
+    bool saveFirst(const EmployeeRecord& employee, int hours);
     /// Running total of the last employee, -1 when it cannot be read.
     [[nodiscard]] int lastRunningTotal();
 

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "employee_database.h"
+#include "overtime/liquidation_save.h"
 #include "overtime/pools.h"
 #include "records/overtime_records.h"
 #include "storage/disk_file_system.h"
@@ -20,7 +21,9 @@
 namespace vorbano::bench {
 namespace {
 
-constexpr std::string_view employeeFile = "09-06-24.vbn";
+const Election election{"Europee", "09-06-24"};
+constexpr std::string_view employeeFile = "Elezioni/Europee/09-06-24/09-06-24.vbn";
+constexpr std::string_view companionFile = "Elezioni/Europee/09-06-24/Reverse.vbn";
 constexpr std::size_t fileLength = std::size_t{maxRecords} * sizeof(EmployeeRecord);
 
 EmployeeRecord employee(int number) {
@@ -40,6 +43,7 @@ EmployeeRecord employee(int number) {
 class FullElection {
   public:
     FullElection() : files(folder.path()) {
+        if (!makeElectionFolder(files, election)) return;
         std::vector<EmployeeRecord> records;
         for (int number = 1; number <= maxRecords; ++number) records.push_back(employee(number));
         auto file = RecordFile<EmployeeRecord>::open(files, employeeFile);
@@ -105,16 +109,16 @@ int authorisedHours(FileSystem& files, std::size_t period) {
 }
 
 void ScanOfAllRecords_RecordFile(benchmark::State& state) {
-    FullElection election;
-    measure(state, election.ready, [&] { return authorisedHours(election.files, 0) == maxRecords * 34; });
+    FullElection full;
+    measure(state, full.ready, [&] { return authorisedHours(full.files, 0) == maxRecords * 34; });
     bytesMoved(state, fileLength);
 }
 
 void ScanOfAllRecords_SameBytesReadOnce(benchmark::State& state) {
-    const FullElection election;
+    const FullElection full;
     std::vector<std::byte> content(fileLength);
-    measure(state, election.ready, [&] {
-        const bool read = RawFile(election.path(), O_RDONLY).readAll(content);
+    measure(state, full.ready, [&] {
+        const bool read = RawFile(full.path(), O_RDONLY).readAll(content);
         benchmark::DoNotOptimize(content.data());
         benchmark::ClobberMemory();
         return read;
@@ -144,9 +148,9 @@ void AppendOfOneRecord_SameBytesWrittenOnce(benchmark::State& state) {
 }
 
 void RewriteOfAllRecords_RecordFile(benchmark::State& state) {
-    FullElection election;
-    measure(state, election.ready, [&] {
-        return rewrite<EmployeeRecord>(election.files, employeeFile, reverseFile,
+    FullElection full;
+    measure(state, full.ready, [&] {
+        return rewrite<EmployeeRecord>(full.files, employeeFile, companionFile,
                                        [](int, EmployeeRecord&) { return true; })
             .ok();
     });
@@ -154,51 +158,58 @@ void RewriteOfAllRecords_RecordFile(benchmark::State& state) {
 }
 
 void RewriteOfAllRecords_SameBytesCopiedOnce(benchmark::State& state) {
-    const FullElection election;
-    const std::string companion = (election.folder.path() / reverseFile).string();
+    const FullElection full;
+    const std::string companion = (full.folder.path() / companionFile).string();
     std::vector<std::byte> content(fileLength);
-    measure(state, election.ready, [&] {
-        const bool copied = RawFile(election.path(), O_RDONLY).readAll(content) &&
+    measure(state, full.ready, [&] {
+        const bool copied = RawFile(full.path(), O_RDONLY).readAll(content) &&
                             RawFile(companion, O_WRONLY | O_CREAT | O_TRUNC).writeAndWait(content);
         std::error_code trouble;
-        std::filesystem::rename(companion, election.path(), trouble);
+        std::filesystem::rename(companion, full.path(), trouble);
         return copied && !trouble;
     });
     bytesMoved(state, fileLength);
 }
 
-/// A liquidation of the first employee: every record takes the new running total, and the file is old or new.
-void SaveWithRunningTotals_RecordFile(benchmark::State& state) {
-    FullElection election;
-    measure(state, election.ready, [&] {
-        return rewrite<EmployeeRecord>(election.files, employeeFile, reverseFile,
-                                       [](int, EmployeeRecord& record) {
-                                           record.pools.MoUtil = static_cast<std::int16_t>(record.pools.MoUtil + 1);
-                                           return true;
-                                       })
-            .ok();
+/// "Salva" of the first employee with an hour more each time, as the liquidation does it: its own record, and the new
+/// running total in every record behind it; the file is old or new.
+void SaveOfALiquidation_RecordFile(benchmark::State& state) {
+    FullElection full;
+    int hours = 0;
+    measure(state, full.ready, [&] {
+        const auto first = readEmployee(full.files, election, {}, 1);
+        if (!first) return false;
+        Liquidation values = liquidationOf(*first);
+        values.totEseg = static_cast<std::int16_t>(++hours);
+        return saveLiquidation(full.files, election, {}, 1, values).ok();
     });
-    const auto file = RecordFile<EmployeeRecord>::open(election.files, employeeFile);
+    const auto file = RecordFile<EmployeeRecord>::open(full.files, employeeFile);
     const auto last = file ? file->last() : std::nullopt;
     if (!last || last->pools.MoUtil != static_cast<std::int16_t>(state.iterations()))
         state.SkipWithError("the running totals are wrong");
 }
 
-void SaveWithRunningTotals_SqliteTransaction(benchmark::State& state) {
+/// The same update: the first row as a whole, the running total in every row, one transaction.
+void SaveOfALiquidation_SqliteTransaction(benchmark::State& state) {
     const test::TemporaryFolder folder;
     EmployeeDatabase database(folder.path() / "employees.sqlite", maxRecords, employee(1));
-    measure(state, database.ok(), [&] { return database.addToRunningTotals(1); });
+    EmployeeRecord first = employee(1);
+    int hours = 0;
+    measure(state, database.ok(), [&] {
+        first.totEseg = static_cast<std::int16_t>(++hours);
+        return database.saveFirst(first, 1);
+    });
     if (database.lastRunningTotal() != static_cast<int>(state.iterations()))
         state.SkipWithError("the running totals are wrong");
 }
 
 /// What a change of a period's last date works out before the clerk sees the next letter.
 void KeystrokeInADateField_FiguresAndHoursOfAllRecords(benchmark::State& state) {
-    FullElection election;
-    measure(state, election.ready, [&] {
+    FullElection full;
+    measure(state, full.ready, [&] {
         const auto days = countedDays("15-04-24", "14-05-24");
         const PeriodFigures figures = periodFigures(1, days.value_or(0), 40, maxRecords);
-        const int used = authorisedHours(election.files, 0);
+        const int used = authorisedHours(full.files, 0);
         const Judgement judgement = judgeHours(34, used, figures);
         benchmark::DoNotOptimize(judgement.verdict);
         return used >= 0;
@@ -214,8 +225,8 @@ BENCHMARK(AppendOfOneRecord_RecordFile)->Apply(inMilliseconds);
 BENCHMARK(AppendOfOneRecord_SameBytesWrittenOnce)->Apply(inMilliseconds);
 BENCHMARK(RewriteOfAllRecords_RecordFile)->Apply(inMilliseconds);
 BENCHMARK(RewriteOfAllRecords_SameBytesCopiedOnce)->Apply(inMilliseconds);
-BENCHMARK(SaveWithRunningTotals_RecordFile)->Apply(inMilliseconds);
-BENCHMARK(SaveWithRunningTotals_SqliteTransaction)->Apply(inMilliseconds);
+BENCHMARK(SaveOfALiquidation_RecordFile)->Apply(inMilliseconds);
+BENCHMARK(SaveOfALiquidation_SqliteTransaction)->Apply(inMilliseconds);
 BENCHMARK(KeystrokeInADateField_FiguresAndHoursOfAllRecords)->Apply(inMilliseconds);
 
 }  // namespace

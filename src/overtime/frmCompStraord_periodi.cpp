@@ -1,5 +1,6 @@
 // The dates of the authorising acts and of the periods.
 
+#include "overtime/employee_removal.h"
 #include "overtime/frmCompStraord.h"
 #include "screens/date_entry.h"
 #include "screens/well_done.h"
@@ -187,14 +188,12 @@ void frmCompStraord::copyPeriods() {
 /// Carries changed dates, and the total of the pools that follows from them, to all records of the election. The
 /// records come last: as long as they hold the old dates, nothing is changed that counts.
 bool frmCompStraord::Addata() {
-    const auto path = election().employeeFile();
-    const auto companion = election().file(reverseFile);
     const auto stored = readElection();
     if (!stored) return wellDone(stored.error(), desk_.desktop);
-    if (!path || !companion || stored->count == 0) return true;
+    if (stored->count == 0) return true;
     if (!wellDone(SalvaMeirin(), desk_.desktop)) return false;
     const auto globo = toInteger(txtGlobo.text());
-    const auto done = rewrite<EmployeeRecord>(desk_.files, *path, *companion, [&](int, EmployeeRecord& record) {
+    const auto done = rewriteEmployees(desk_.files, election(), [&](int, EmployeeRecord& record) {
         for (std::size_t at = 0; at < periods.size(); ++at) {
             record.periods[at].from = periods[at].dal.text();
             record.periods[at].to = periods[at].al.text();

@@ -1,32 +1,13 @@
 // Storing an employee, and going on to the next.
 
+#include "overtime/employee_removal.h"
 #include "overtime/frmCompStraord.h"
+#include "screens/typed_values.h"
 #include "screens/well_done.h"
 #include "storage/dates.h"
 #include "storage/numbers.h"
 
 namespace vorbano {
-
-namespace {
-
-/// A text that cannot be converted leaves what the buffer held; an empty one is 0.
-void take(Integer& field, const std::string& text) {
-    if (trim(text).empty()) {
-        field = 0;
-    } else if (const auto number = toInteger(text)) {
-        field = *number;
-    }
-}
-
-void takeCents(Currency& field, const std::string& text) {
-    if (trim(text).empty()) {
-        field = Currency();
-    } else if (const auto amount = toCurrency(text)) {
-        field = cents(*amount);
-    }
-}
-
-}  // namespace
 
 void frmCompStraord::cmdSalva_Click() {
     if (trim(txtNameDip.text()).empty()) {
@@ -146,11 +127,7 @@ Result<> frmCompStraord::InsDate() {
 
 /// The pools of a changed number of employees go to every record of the election.
 Result<> frmCompStraord::adding() {
-    const auto path = election().employeeFile();
-    const auto companion = election().file(reverseFile);
-    if (!path) return path.error();
-    if (!companion) return companion.error();
-    return rewrite<EmployeeRecord>(desk_.files, *path, *companion, [this](int, EmployeeRecord& record) {
+    return rewriteEmployees(desk_.files, election(), [this](int, EmployeeRecord& record) {
         take(record.pools.NumDip, txtNumDip.text());
         take(record.pools.MonteOre, txtMonteOre.text());
         take(record.pools.MoUtil, txtMoUtil.text());

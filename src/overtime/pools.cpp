@@ -33,8 +33,17 @@ int thirtieth(Wide product, Half half) {
     return static_cast<int>(std::clamp<Wide>(negative ? -quotient : quotient, Limits::min(), Limits::max()));
 }
 
-/// Hours a month of the absolute limit. The difference between the periods is intended.
-constexpr int limitByMonth(int period) { return period <= 3 ? 60 : 70; }
+/// The two figures that the absolute limit is taken from.
+constexpr int lowerLimit = 60;
+constexpr int higherLimit = 70;
+/// Below this year the changes of dates and the removal take the higher limit.
+constexpr int yearOfLowerLimit = 14;
+
+PeriodFigures figuresOf(int limitHours, int days, int monteOre, int employees) {
+    return {.limit = thirtieth(Wide{days} * limitHours, Half::away),
+            .pool = thirtieth(Wide{days} * monteOre * employees, Half::away),
+            .average = thirtieth(Wide{days} * monteOre, Half::toEven)};
+}
 
 std::string number(std::int64_t hours) { return std::to_string(hours); }
 
@@ -62,17 +71,22 @@ Judgement aboveAverage(const PeriodFigures& figures, std::int64_t excess) {
                     "Ore autorizzate", Icon::information}};
 }
 
-/// The words, down to "delle" without a blank and the literal "diffmonte", are deliberately the office's own.
-Judgement aboveAverageAndPool(const PeriodFigures& figures, std::int64_t excess) {
+/// The words, down to "delle" without a blank and, at authorisation only, the literal "diffmonte" before the last
+/// "ore", are deliberately the office's own.
+Judgement aboveAverageAndPool(const PeriodFigures& figures, std::int64_t excess, std::string_view beforeOre) {
     return refused("Errore", "Le ore autorizzate superano non solo il limite medio mensile di " +
                                  number(figures.average) + " ore, ma anche il limite del monte ore mensile delle" +
-                                 number(figures.pool) + " ore, di n." + number(excess) + " diffmonte " +
+                                 number(figures.pool) + " ore, di n." + number(excess) + std::string(beforeOre) +
                                  "ore. Modificare i dati");
 }
 
 }  // namespace
 
 int monteOre(int employees) { return employees <= smallStaff ? 60 : 40; }
+
+int monteOreOfNewDates(int employees) { return employees <= smallStaff ? 70 : 50; }
+
+int monteOreAfterRemoval(int employeesLeft, int stored) { return employeesLeft == smallStaff ? 70 : stored; }
 
 std::optional<int> countedDays(std::string_view from, std::string_view to) {
     const auto first = parseDate(from);
@@ -83,10 +97,39 @@ std::optional<int> countedDays(std::string_view from, std::string_view to) {
     return days >= fullMonth ? daysInMonth : days;
 }
 
+int limitByMonth(LimitRule rule, int period, int yearOfCentury) {
+    const bool late = period > static_cast<int>(earlyPeriods);
+    if (rule == LimitRule::authorisation) return late ? higherLimit : lowerLimit;
+    if (rule == LimitRule::removal && late) return higherLimit;
+    return yearOfCentury < yearOfLowerLimit ? higherLimit : lowerLimit;
+}
+
 PeriodFigures periodFigures(int period, int days, int monteOre, int employees) {
-    return {.limit = thirtieth(Wide{days} * limitByMonth(period), Half::away),
-            .pool = thirtieth(Wide{days} * monteOre * employees, Half::away),
-            .average = thirtieth(Wide{days} * monteOre, Half::toEven)};
+    return figuresOf(limitByMonth(LimitRule::authorisation, period, 0), days, monteOre, employees);
+}
+
+bool PeriodSpan::isExcluded() const { return vorbano::isExcluded(from) && vorbano::isExcluded(to); }
+
+ElectionFigures electionFigures(const ElectionSpans& spans, const PoolTerms& terms) {
+    ElectionFigures figures;
+    for (std::size_t at = 0; at < spans.size(); ++at) {
+        if (!spans[at]) continue;
+        if (spans[at]->isExcluded()) {
+            figures[at] = PeriodFigures{};
+            continue;
+        }
+        const auto days = countedDays(spans[at]->from, spans[at]->to);
+        if (!days) continue;
+        const int limitHours = limitByMonth(terms.rule, static_cast<int>(at) + 1, terms.yearOfCentury);
+        figures[at] = figuresOf(limitHours, *days, terms.monteOre, terms.employees);
+    }
+    return figures;
+}
+
+std::int64_t sumOfPools(const ElectionFigures& figures) {
+    std::int64_t sum = 0;
+    for (const auto& period : figures) sum += period ? period->pool : 0;
+    return sum;
 }
 
 Judgement judgeHours(int hours, int used, const PeriodFigures& figures) {
@@ -99,8 +142,38 @@ Judgement judgeHours(int hours, int used, const PeriodFigures& figures) {
     if (overAverage > 0 && overPool < 0) return aboveAverage(figures, overAverage);
     // Never reached: the first test already stops hours above the pool. It stands here deliberately, as the last of the
     // office's four checks, so that their list and their order can be read in one place.
-    if (overAverage > 0 && overPool > 0) return aboveAverageAndPool(figures, overPool);
+    if (overAverage > 0 && overPool > 0) return aboveAverageAndPool(figures, overPool, " diffmonte ");
     return {};
+}
+
+Judgement judgeCorrectedHours(int hours, int used, const PeriodFigures& figures) {
+    const std::int64_t overPool = std::int64_t{used} - figures.pool;
+    const std::int64_t overLimit = std::int64_t{hours} - figures.limit;
+    const std::int64_t overAverage = std::int64_t{hours} - figures.average;
+    if (overLimit > 0) return aboveLimit(figures, overLimit);
+    if (overAverage > 0 && overPool < 0) return aboveAverage(figures, overAverage);
+    if (overAverage > 0 && overPool > 0) return aboveAverageAndPool(figures, overPool, "");
+    if (overPool > 0) return abovePool(overPool);
+    return {};
+}
+
+std::optional<Message> authorisedBelowPaid(std::int64_t authorised, std::int64_t paid) {
+    if (paid <= authorised) return std::nullopt;
+    return Message{"Le ore autorizzate sono inferiori a quelle liquidate di " + number(paid - authorised) +
+                       " ore, modificare i dati",
+                   "Errore!", Icon::error};
+}
+
+std::optional<Message> paidAboveAuthorised(std::int64_t paid, std::int64_t authorised) {
+    if (paid <= authorised) return std::nullopt;
+    return Message{
+        "Attenzione, il numero delle ore fatte supera quelle autorizzate di " + number(paid - authorised) + " ore",
+        "Liquidazione ore", Icon::warning};
+}
+
+std::optional<Message> paidAboveAuthorisedOnLeaving(std::int64_t paid, std::int64_t authorised) {
+    if (paid <= authorised) return std::nullopt;
+    return Message{"Le ore liquidate superano le ore autorizzate", "inserimento dati", Icon::warning};
 }
 
 Message poolExceeded() {

@@ -30,8 +30,9 @@ extern const std::array<std::string_view, 11> electionTypesForAuthorisation;
 /// The most periods that an election can have.
 inline constexpr int maxPeriods = 5;
 
-/// The screens decide by rules of their own who had a fourth period before 2014; the differences are deliberate.
-enum class PeriodRule : std::uint8_t { elimina, modDate, stampe };
+/// The screens decide by rules of their own who had a fourth period before 2014; the differences are deliberate. The
+/// liquidation shows what the reports show.
+enum class PeriodRule : std::uint8_t { elimina, modDate, stampe, modStraord = stampe };
 
 struct Election {
     std::string type;  ///< trimmed

@@ -25,6 +25,7 @@ struct Stage {
     FailingFileSystem failing{disk};
     AgreeingDesk desk;
     MemoryDatabase staging{stagingTables()};
+    MemoryDatabase places{placeTables()};
     RecordingPrintEngine printing;
     OpenedScreens screens;
     std::unique_ptr<frmCompStraord> screen;
@@ -37,7 +38,7 @@ struct Stage {
     ~Stage() { desk.shut(screen->form); }
     void open() {
         if (screen) desk.shut(screen->form);
-        screen = std::make_unique<frmCompStraord>(Workplace{failing, desk, staging, printing, screens});
+        screen = std::make_unique<frmCompStraord>(Workplace{failing, desk, staging, printing, screens, places});
         desk.open(screen->form);
     }
     Control& control(const std::string& name) { return *screen->form.find(name); }

@@ -13,9 +13,6 @@ namespace vorbano {
 void PrintTo(const PeriodFigures& figures, std::ostream* out) {
     *out << "limit " << figures.limit << ", pool " << figures.pool << ", average " << figures.average;
 }
-bool operator==(const PeriodFigures& a, const PeriodFigures& b) {
-    return a.limit == b.limit && a.pool == b.pool && a.average == b.average;
-}
 
 namespace {
 

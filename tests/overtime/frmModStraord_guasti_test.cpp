@@ -1,0 +1,323 @@
+// The disk fails once or stops for good at every operation of every command of the liquidation that stores: each file
+// is whole afterwards, old or new; what failed is told, the screen stays, and the command given again ends it, nothing
+// twice.
+
+#include <map>
+
+#include "liquidation_desk.h"
+#include "storage/failing_file_system.h"
+
+namespace vorbano::test {
+namespace {
+
+using ::testing::AnyOf;
+using ::testing::Contains;
+
+/// Says yes to every question and remembers the titles of what was told.
+class AgreeingDesk : public ScriptedDesktop {
+  public:
+    std::vector<std::string> told;
+    void tell(const Message& message) override { told.push_back(message.title); }
+    bool ask(const Message&) override { return true; }
+};
+
+using Files = std::map<std::string, std::string>;
+const std::string folder = "Elezioni/Europee/07-06-09/";
+
+/// One fresh disk, desk and screen.
+struct Bench {
+    MemoryFileSystem disk;
+    FailingFileSystem failing{disk};
+    AgreeingDesk desk;
+    MemoryDatabase staging{stagingTables()};
+    MemoryDatabase places{placeTables()};
+    RecordingPrintEngine printing;
+    OpenedScreens screens;
+    std::unique_ptr<frmModStraord> screen;
+
+    explicit Bench(const Files& files) {
+        for (const auto& [name, content] : files) EXPECT_TRUE(lay(disk, folder + name, content));
+        EXPECT_TRUE(lay(disk, "Params/Conprev.dat", amount(23, 80) + amount(8, 50) + amount(8, 80) + amount(0, 35)));
+    }
+    ~Bench() { desk.shut(screen->form); }
+    void open() {
+        if (screen) desk.shut(screen->form);
+        screen = std::make_unique<frmModStraord>(Workplace{failing, desk, staging, printing, screens, places});
+        desk.open(screen->form);
+        EXPECT_EQ(clerk().choose(control("Combo1"), "Europee"), Refusal::none);
+        type("txtDataEle", "07/06/09");
+    }
+    Control& control(const std::string& name) { return *screen->form.find(name); }
+    Operator clerk() { return Operator(screen->form); }
+    void type(const std::string& name, const char* words) {
+        EXPECT_EQ(clerk().type(control(name), words), Refusal::none) << name;
+    }
+    void click(const std::string& name) { EXPECT_EQ(clerk().click(control(name)), Refusal::none) << name; }
+    void callUp(const char* number) {
+        open();
+        type("txtSonoDip", number);
+        click("cmdRicerca");
+    }
+    /// Employee `number` is paid ten hours and three, up to "Salva".
+    void toSalva(const char* number) {
+        callUp(number);
+        EXPECT_EQ(clerk().press(control("Frame1")), Refusal::none);
+        type("txtPag1Df", "10");
+        type("txtPag1Nf", "3");
+        EXPECT_EQ(clerk().enter(control("txtTotale1")), Refusal::none);
+        clerk().leave();
+        click("cmdRicalcola");
+    }
+    Files files(const Files& like) {
+        Files now;
+        for (const auto& each : like) now[each.first] = contentOf(disk, folder + each.first);
+        return now;
+    }
+};
+
+Person oldStyle(Person person) {
+    person.dates = {{{"15-04-09", "14-05-09"}, {"15-05-09", "24-05-09"}, {"//      ", "//      "}}};
+    return person;
+}
+std::string fourth(const Person& person, const Person& paid) {
+    return Sheet(241)
+        .integersAt(0, {40, 0, 280, 373, person.number, 7})
+        .at(12, padded(person.name, 60))
+        .at(72, "01-06-09")
+        .at(80, "07-06-09")
+        .at(88, nuls(14))
+        .integersAt(102, {total(person.authorised[0]) + total(person.authorised[1])})
+        .at(104, threeLe16(paid.executed) + le16(paid.totEseg))
+        .at(112, padded("D3", 7))
+        .at(119, padded("-", 10))
+        .at(129, paid.payBytes())
+        .bytes();
+}
+std::string statement(int overtime, int total) {
+    std::string bytes;
+    for (int at = 0; at < 19; ++at) bytes += amount(0, at == 1 ? overtime : at == 12 || at == 14 ? total : 0);
+    return bytes;
+}
+
+Files laid() {
+    const Person one = oldStyle(first());
+    const Person two = oldStyle(second());
+    return {{"07-06-09.vbn", staffOf({one, two})},
+            {"Meirin.vbn", limitsBytes()},
+            {"Quartum.vbn", fourth(one, one) + fourth(two, two)},
+            {"Rendi.vbn", statement(10000, 20000)}};
+}
+/// `who` of the two is liquidated. 170,05 + 40,47 + 14,45 are 224,97, and once more from the fourth period.
+Files liquidated(int who) {
+    const Person one = oldStyle(first());
+    const Person two = oldStyle(second());
+    Files files = laid();
+    if (who == 1) {
+        const Person paid = one.liquidated();
+        files["07-06-09.vbn"] = staffOf({paid.withUsed(13), two.withUsed(13)});
+        files["Quartum.vbn"] = fourth(one, paid) + fourth(two, two);
+    } else {
+        const Person paid = two.liquidated();
+        files["07-06-09.vbn"] = staffOf({one, paid.withUsed(13)});
+        files["Quartum.vbn"] = fourth(one, one) + fourth(two, paid);
+    }
+    files["Rendi.vbn"] = statement(44994, 54994);
+    return files;
+}
+
+struct Command {
+    const char* name;
+    Files before;
+    void (*prepare)(Bench&);
+    const char* command;
+    Files after;
+};
+void PrintTo(const Command& command, std::ostream* out) { *out << command.name; }
+
+Files withLimits(Files files, const std::string& limits) {
+    files["Meirin.vbn"] = limits;
+    return files;
+}
+Files withName(Files files) {
+    files["07-06-09.vbn"].replace(301 + 12, 60, padded("VERDI ALDA", 60));
+    return files;
+}
+
+const std::vector<Command>& commands() {
+    static const std::vector<Command> all = {
+        {"SalvaOfTheFirst", laid(), [](Bench& bench) { bench.toSalva("1"); }, "cmdSalva", liquidated(1)},
+        {"SalvaOfTheLastWithIrpef", laid(),
+         [](Bench& bench) {
+             bench.toSalva("2");
+             bench.type("txtIrpef", "100");
+         },
+         "cmdSalva", withLimits(liquidated(2), limitsBytes({1, 1, 1}, 1, 1, 10000))},
+        {"SalvaModifica", laid(),
+         [](Bench& bench) {
+             bench.callUp("2");
+             EXPECT_EQ(bench.clerk().tick(bench.control("Check1"), true), Refusal::none);
+             bench.type("txtNameDip", "VERDI ALDA");
+         },
+         "cmdSalva2", withName(laid())},
+        {"Attiva", laid(),
+         [](Bench& bench) {
+             bench.open();
+             EXPECT_EQ(bench.clerk().menu(bench.control("mnuAutoriz")), Refusal::none);
+             for (const char* box : {"Check8", "Check12"}) {
+                 EXPECT_EQ(bench.clerk().tick(bench.control(box), true), Refusal::none);
+             }
+         },
+         "cmdAttiva2", withLimits(laid(), limitsBytes({0, 1, 1}, 0))},
+    };
+    return all;
+}
+
+class GuastiLiquidazione : public ::testing::TestWithParam<Command> {
+  protected:
+    static int operations() {
+        Bench bench(GetParam().before);
+        GetParam().prepare(bench);
+        EXPECT_EQ(hexOf(bench.files(GetParam().before)), hexOf(GetParam().before));
+        bench.failing.failOnce(0);
+        bench.click(GetParam().command);
+        const int seen = bench.failing.operations();
+        EXPECT_EQ(hexOf(bench.files(GetParam().after)), hexOf(GetParam().after));
+        EXPECT_FALSE(canAct(bench));
+        return seen;
+    }
+    static bool canAct(Bench& bench) { return bench.control(GetParam().command).isOperable(); }
+    static Files hexOf(Files files) {
+        for (auto& each : files) each.second = toHex(each.second);
+        return files;
+    }
+    static void expectWhole(Bench& bench) {
+        for (const auto& [name, content] : bench.files(GetParam().before)) {
+            EXPECT_THAT(toHex(content), AnyOf(toHex(GetParam().before.at(name)), toHex(GetParam().after.at(name))))
+                << name;
+        }
+    }
+};
+
+TEST_P(GuastiLiquidazione, OneFailureIsToldAndTheCommandGivenAgainEndsIt) {
+    const int all = operations();
+    ASSERT_GE(all, 3);
+    for (int n = 1; n <= all; ++n) {
+        SCOPED_TRACE(n);
+        Bench bench(GetParam().before);
+        GetParam().prepare(bench);
+        bench.desk.told.clear();
+        bench.failing.failOnce(n);
+        bench.click(GetParam().command);
+        bench.failing.failOnce(0);
+        expectWhole(bench);
+        if (canAct(bench)) {
+            EXPECT_THAT(bench.desk.told, Contains("Errore")) << "it failed without a word";
+            bench.click(GetParam().command);
+        }
+        EXPECT_EQ(hexOf(bench.files(GetParam().after)), hexOf(GetParam().after));
+        EXPECT_FALSE(canAct(bench));
+    }
+}
+
+TEST_P(GuastiLiquidazione, AfterAPowerCutEachFileIsOldOrNewAndTheWorkIsDoneAgain) {
+    const int all = operations();
+    for (int n = 1; n <= all; ++n) {
+        SCOPED_TRACE(n);
+        Bench bench(GetParam().before);
+        GetParam().prepare(bench);
+        bench.failing.stopAt(n);
+        bench.click(GetParam().command);
+        bench.failing.stopAt(0);
+        bench.disk.cutPower();
+        expectWhole(bench);
+        if (hexOf(bench.files(GetParam().before)) == hexOf(GetParam().after)) continue;
+        GetParam().prepare(bench);
+        bench.click(GetParam().command);
+        EXPECT_EQ(hexOf(bench.files(GetParam().after)), hexOf(GetParam().after));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Commands, GuastiLiquidazione, ::testing::ValuesIn(commands()),
+                         [](const auto& command) { return std::string(command.param.name); });
+
+/// A command that only reads: every failure is told and the command can be given again.
+struct Reading {
+    const char* name;
+    void (*prepare)(Bench&);
+    void (*act)(Bench&);
+    bool (*isDone)(Bench&);
+};
+void PrintTo(const Reading& reading, std::ostream* out) { *out << reading.name; }
+
+class GuastiComandi : public ::testing::TestWithParam<Reading> {};
+
+TEST_P(GuastiComandi, AFailureIsToldAndTheCommandGivenAgainEndsIt) {
+    int failures = 0;
+    for (int n = 1; n < 100; ++n) {
+        SCOPED_TRACE(n);
+        Bench bench(laid());
+        GetParam().prepare(bench);
+        bench.desk.told.clear();
+        bench.failing.failOnce(n);
+        GetParam().act(bench);
+        const bool struck = bench.failing.operations() >= n;
+        bench.failing.failOnce(0);
+        if (!struck) {
+            EXPECT_TRUE(GetParam().isDone(bench));
+            EXPECT_GE(failures, 2);
+            return;
+        }
+        ++failures;
+        EXPECT_THAT(bench.desk.told, Contains("Errore"));
+        EXPECT_FALSE(GetParam().isDone(bench));
+        GetParam().act(bench);
+        EXPECT_TRUE(GetParam().isDone(bench));
+    }
+    FAIL() << "the command never came to an end";
+}
+
+const Reading readings[] = {
+    {"Search",
+     [](Bench& bench) {
+         bench.open();
+         bench.type("txtSonoDip", "1");
+     },
+     [](Bench& bench) { bench.click("cmdRicerca"); },
+     [](Bench& bench) { return bench.screen->txtNameDip.text() == "BIANCHI ANNA"; }},
+    {"Conferma",
+     [](Bench& bench) {
+         bench.callUp("1");
+         EXPECT_EQ(bench.clerk().press(bench.control("Frame1")), Refusal::none);
+         bench.type("txtPag1Df", "10");
+         EXPECT_EQ(bench.clerk().enter(bench.control("txtTotale1")), Refusal::none);
+         bench.clerk().leave();
+     },
+     [](Bench& bench) { bench.click("cmdRicalcola"); }, [](Bench& bench) { return bench.screen->cmdSalva.enabled(); }},
+    {"Names", [](Bench& bench) { bench.open(); },
+     [](Bench& bench) { EXPECT_EQ(bench.clerk().tick(bench.control("Check11"), true), Refusal::none); },
+     [](Bench& bench) { return bench.screen->Check11.checked() && bench.screen->cmbNome.items().size() == 2; }},
+    {"List", [](Bench& bench) { bench.open(); }, [](Bench& bench) { bench.click("cmdRicerca2"); },
+     [](Bench& bench) { return bench.screen->MSFlexGrid1.rows() == 3; }},
+    {"Rates", [](Bench& bench) { bench.callUp("1"); }, [](Bench& bench) { bench.click("cmdTariffe"); },
+     [](Bench& bench) { return bench.screen->Frame26.visible(); }},
+    {"States", [](Bench& bench) { bench.open(); },
+     [](Bench& bench) { EXPECT_EQ(bench.clerk().menu(bench.control("mnuAutoriz")), Refusal::none); },
+     [](Bench& bench) { return bench.screen->Frame24.visible(); }},
+    {"AuthorisedHours",
+     [](Bench& bench) {
+         EXPECT_TRUE(lay(bench.disk, folder + "Meirin.vbn", limitsBytes({0, 0, 0})));
+         bench.callUp("1");
+         EXPECT_EQ(bench.clerk().press(bench.control("Frame1")), Refusal::none);
+     },
+     [](Bench& bench) {
+         EXPECT_EQ(bench.clerk().enter(bench.control("txtNf1Per")), Refusal::none);
+         bench.clerk().leave();
+     },
+     [](Bench& bench) { return bench.screen->cmdRicalcola.enabled(); }},
+};
+
+INSTANTIATE_TEST_SUITE_P(Commands, GuastiComandi, ::testing::ValuesIn(readings),
+                         [](const auto& reading) { return std::string(reading.param.name); });
+
+}  // namespace
+}  // namespace vorbano::test
