@@ -17,17 +17,22 @@ namespace {
 using namespace vorbano;
 
 constexpr int most = 32767;
+constexpr int peopleInStation = 7;
 
-/// An installation with employees in its staging tables.
+/// An installation with employees, or with the members of polling stations, in its staging tables.
 class Office {
   public:
-    explicit Office(int employees) : database_(root() + "/Stampe/dbStampa.mdb"), renderer_(database_, source()) {
-        ok_ = folder_.isValid() && layInstallation(root()).ok() && fill(employees);
+    enum class Holds { employees, stations };
+    explicit Office(int count, Holds what = Holds::employees)
+        : database_(root() + "/Stampe/dbStampa.mdb"), renderer_(database_, source()) {
+        ok_ = folder_.isValid() && layInstallation(root()).ok() &&
+              (what == Holds::employees ? fill(count) : fillStations(count));
     }
 
     [[nodiscard]] bool ok() const { return ok_; }
     [[nodiscard]] std::string root() const { return folder_.path().toStdString(); }
     Result<std::unique_ptr<ReportDocument>> document() { return renderer_.document("impstr.rpt", "IMPEGNO DI SPESA"); }
+    Result<std::unique_ptr<ReportDocument>> sheets() { return renderer_.document("seggi.rpt", ""); }
 
   private:
     [[nodiscard]] LayoutSource source() const {
@@ -53,6 +58,23 @@ class Office {
                 row.set(amount, Amount{std::int64_t{number % 1000} * 12300});
             }
             if (!database_.append("Tabella3", row)) return false;
+        }
+        return database_.append("Tabella5", Row().setText("Comune", "PROVA")).ok() && database_.commit().ok();
+    }
+
+    /// Six members and a substitute each.
+    bool fillStations(int stations) {
+        if (!database_.begin()) return false;
+        for (int number = 0; number < stations * peopleInStation; ++number) {
+            const int place = number % peopleInStation + 1;
+            Row row;
+            row.setText("Elezione", "Comunali").setText("Data", "del 9 Giugno 2024");
+            row.setWhole("Seggio", stations).setWhole("SonoSeggio", number / peopleInStation + 1);
+            row.setWhole("CompoNum", place).setText("Qualifica", place == 1 ? "Presidente" : "Scrutatore");
+            row.setText("Componente", place == 7 ? "CASTELLANO PIGNATELLI FRANCESCO SAVERIO" : "ROSSI MARIA");
+            row.setText("Indirizzo", "VIA GARIBALDI 12").setText("Partecipazione", "SI");
+            row.setText("CodiceFiscale", "RSSMRA80A41A944X").set("onorario", Amount{1200000});
+            if (!database_.append("Tabella7", row)) return false;
         }
         return database_.append("Tabella5", Row().setText("Comune", "PROVA")).ok() && database_.commit().ok();
     }
@@ -90,6 +112,28 @@ void fileOfADocument(benchmark::State& state) {
     perRow(state);
 }
 
+/// A sheet for each polling station. The time of a station has to be the same whatever their number.
+void pagesOfStations(benchmark::State& state) {
+    Office office(static_cast<int>(state.range(0)), Office::Holds::stations);
+    for (auto step : state) {
+        const auto document = office.sheets();
+        if (!office.ok() || !document) return state.SkipWithError("no document");
+        state.counters["pages"] = (*document)->pages();
+    }
+    perRow(state);
+}
+
+void fileOfStations(benchmark::State& state) {
+    Office office(static_cast<int>(state.range(0)), Office::Holds::stations);
+    for (auto step : state) {
+        const auto document = office.sheets();
+        if (!office.ok() || !document || !(*document)->savePdf(office.root() + "/seggi.pdf")) {
+            return state.SkipWithError("no file");
+        }
+    }
+    perRow(state);
+}
+
 /// What is compared with: one text document that holds the whole table.
 void oneTextDocument(benchmark::State& state) {
     QString html = "<table>";
@@ -110,6 +154,8 @@ void oneTextDocument(benchmark::State& state) {
 
 BENCHMARK(pagesOfADocument)->Arg(100)->Arg(1000)->Arg(10000)->Arg(most)->Unit(benchmark::kMillisecond);
 BENCHMARK(fileOfADocument)->Arg(100)->Arg(1000)->Arg(10000)->Arg(most)->Unit(benchmark::kMillisecond);
+BENCHMARK(pagesOfStations)->Arg(100)->Arg(1000)->Arg(2600)->Unit(benchmark::kMillisecond);
+BENCHMARK(fileOfStations)->Arg(100)->Arg(1000)->Arg(2600)->Unit(benchmark::kMillisecond);
 BENCHMARK(oneTextDocument)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/result.h"
 
@@ -20,6 +21,15 @@ struct PrintJob {
     Destination destination = Destination::preview;
 };
 
+/// A page without layout and tables: lines of text, in a fixed pitch so that columns made with blanks stand one below
+/// the other. It goes straight to the printer. Lines too many for one sheet go on on the next; a line too wide makes
+/// all of them smaller, so that nothing is cut.
+struct PlainPage {
+    std::string title;    ///< of the document, and of the PDF where there is no printer
+    std::string heading;  ///< above the lines, larger: the municipality; "" for none
+    std::vector<std::string> lines;
+};
+
 /// Runs a layout over the whole of the staging tables; returns when the clerk has closed the preview or the document is
 /// with the printer. `notFound` when the layout is not there, `damaged` when it cannot be read (the subject names file,
 /// line and what is wrong).
@@ -27,6 +37,8 @@ class PrintEngine {
   public:
     virtual ~PrintEngine() = default;
     virtual Result<> run(const PrintJob& job) = 0;
+    /// Prints a plain page; returns when it is with the printer.
+    virtual Result<> printPage(const PlainPage& page) = 0;
 };
 
 /// A finished document: pages that can be shown, printed or saved.

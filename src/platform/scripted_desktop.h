@@ -63,11 +63,16 @@ class ScriptedDesktop : public Desktop {
 class RecordingPrintEngine : public PrintEngine {
   public:
     std::vector<PrintJob> jobs;
+    std::vector<PlainPage> pages;
     std::function<void(const PrintJob&)> whileTablesAreFull;
 
     Result<> run(const PrintJob& job) override {
         jobs.push_back(job);
         if (whileTablesAreFull) whileTablesAreFull(job);
+        return {};
+    }
+    Result<> printPage(const PlainPage& page) override {
+        pages.push_back(page);
         return {};
     }
 };

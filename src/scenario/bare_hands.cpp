@@ -3,6 +3,7 @@
 #include <ctime>
 
 #include "platform/operator.h"
+#include "platform/qt/plain_document.h"
 
 namespace vorbano {
 
@@ -113,6 +114,11 @@ Result<> BarePrintEngine::run(const PrintJob& job) {
     }
     while (!player_.stepAtReport(job, **document)) {
     }
+    return {};
+}
+
+Result<> BarePrintEngine::printPage(const PlainPage& page) {
+    player_.pagePrinted(page, *plainDocument(page));
     return {};
 }
 

@@ -60,6 +60,7 @@ class BarePrintEngine : public PrintEngine {
   public:
     BarePrintEngine(Player& player, Renderer& renderer) : player_(player), renderer_(renderer) {}
     Result<> run(const PrintJob& job) override;
+    Result<> printPage(const PlainPage& page) override;
 
   private:
     Player& player_;

@@ -150,6 +150,15 @@ bool Player::reportFailed(const Error& error) {
     return true;
 }
 
+void Player::pagePrinted(const PlainPage& page, Document& document) {
+    if (over_) return;
+    met("text", page.title);
+    for (const std::string& words : page.lines) met("text", words);
+    const auto path = outFile("pagina-" + std::to_string(++plainPages_) + ".pdf", stage_.out);
+    if (!path) return;
+    if (const auto saved = document.savePdf(utf8(*path)); !saved) failAt(inWords(saved.error()));
+}
+
 void Player::programEnded() {
     while (!over_) {
         const Line* current = line();

@@ -62,6 +62,9 @@ class Player {
     bool stepAtReport(const PrintJob& job, Document& document);
     /// A document could not be made; true when a line expected it, which then does not hold.
     bool reportFailed(const Error& error);
+    /// A plain page went to the printer. No line expects it; it is kept as a PDF, "pagina-1.pdf" and so on, with the
+    /// other documents.
+    void pagePrinted(const PlainPage& page, Document& document);
     /// The main window is closed; plays what still can be looked at.
     void programEnded();
     /// The line in turn does not hold.
@@ -90,6 +93,7 @@ class Player {
     Hands& hands_;
     std::size_t at_ = 0;
     bool over_ = false;
+    int plainPages_ = 0;
     bool inReport_ = false;   ///< the `report` line was played, its `end` not yet
     Form* target_ = nullptr;  ///< the splash window, once a `screen` line named it
     std::string failure_;

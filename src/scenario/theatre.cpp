@@ -27,12 +27,13 @@ std::string playIn(const fs::path& root, const Scenario& scenario, const Orders&
     }
     DiskFileSystem files(root);
     SqliteDatabase staging(utf8(root / "Stampe" / "dbStampa.mdb"));
+    SqliteDatabase places(utf8(root / "Stampe" / "Comuni.mdb"));
     QtRenderer renderer(staging, layoutsOf(files));
     const char* surfaceFile = std::getenv("VORBANO_SURFACE");
     Surface surface(surfaceFile == nullptr ? fs::path() : pathOf(surfaceFile));
     const Stage stage{files, staging, recordFiles(), stagingTables(), out, &surface};
     const Start start = [&](Desktop& desktop, PrintEngine& printing) {
-        Program(files, desktop, staging, printing).run();
+        Program(files, desktop, staging, places, printing).run();
     };
     if (!orders.window) return playBare(scenario, stage, renderer, start);
     return playInWindows(scenario, stage, renderer, start, orders.watch ? Pace::slow : Pace::quick);

@@ -50,10 +50,20 @@ class PlayedPrintEngine : public PrintEngine, private Printer {
         if (!done) player_.reportFailed(done.error());
         return done;
     }
+    Result<> printPage(const PlainPage& page) override {
+        page_ = &page;
+        auto done = engine_.printPage(page);
+        page_ = nullptr;
+        return done;
+    }
     [[nodiscard]] const PrintJob& job() const { return job_; }
 
   private:
     Result<> print(Document& document, std::string_view) override {
+        if (page_ != nullptr) {
+            player_.pagePrinted(*page_, document);
+            return {};
+        }
         while (!player_.stepAtReport(job_, document)) {
         }
         return {};
@@ -62,6 +72,8 @@ class PlayedPrintEngine : public PrintEngine, private Printer {
     Player& player_;
     QtPrintEngine engine_;
     PrintJob job_;
+    /// The plain page on its way to the printer; nullptr while it is a report.
+    const PlainPage* page_ = nullptr;
 };
 
 QString wordsOn(const QAbstractButton& button) { return button.text().remove(QLatin1Char('&')); }

@@ -129,5 +129,29 @@ TEST_P(Reports, TheWindowBehindAPreviewCanBeLookedAt) {
     EXPECT_EQ(std::filesystem::exists(folder.path() / "out/b.png"), GetParam() == Way::windows);
 }
 
+class PlainPages : public Playing {
+  protected:
+    void SetUp() override {
+        prova->cmdSalva.clicked.calls([this] {
+            EXPECT_TRUE(printing->printPage({"Resoconto", "Comune di Lesa", {"uno"}}).ok());
+        });
+    }
+};
+INSTANTIATE_TEST_SUITE_P(BothWays, PlainPages, testing::Values(Way::bare, Way::windows),
+                         testing::PrintToStringParamName());
+
+TEST_P(PlainPages, NeedNoLineAndAreKeptInTheirOrder) {
+    EXPECT_EQ(play("click cmdSalva\nclick cmdSalva\nscreen frmProva\n"), "");
+    EXPECT_TRUE(std::filesystem::exists(folder.path() / "out/pagina-1.pdf"));
+    EXPECT_TRUE(std::filesystem::exists(folder.path() / "out/pagina-2.pdf"));
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / "out/pagina-3.pdf"));
+    EXPECT_EQ(rendered, 0);
+}
+
+TEST_P(PlainPages, AreNoReport) {
+    EXPECT_EQ(failureAt(2, "click cmdSalva\nreport prova.rpt \"Resoconto\" print\nend\n"),
+              "expected `report prova.rpt \"Resoconto\" print`, was the window frmProva");
+}
+
 }  // namespace
 }  // namespace vorbano::test

@@ -17,6 +17,7 @@
 // * Dynamic properties (stdset="0"):
 //     QLineEdit    amount = true              figures, right-aligned
 //     QPushButton  iconName = save, search, print, add, close, confirm, cancel, calculate
+//     QTableWidget stretchColumn = 2          the column, from 0, that takes what room is left; without it the last
 //     QProgressBar valueFrom, maximumFrom     names of the labels or text boxes whose numbers it follows
 //     QLabel       role = title, hint, figure a heading of the window, small grey words, a number that stands out
 //   The tone of a control comes as property `tone` to the style sheet; no .ui sets colours, fonts or style sheets.
@@ -126,6 +127,8 @@ class FormWindow : public QDialog, public FormWatcher {
     bool mouseEvent(Control& control, QObject* part, QEvent& event);
     bool mousePressed(Control& control, QObject* part, const QMouseEvent& event);
     bool framePointed(Frame& frame, const QMouseEvent& event);
+    void pointerLeft(const QWidget& panel);
+    void pointerCame(QPoint at);
     bool keyPressed(Control& control, const QKeyEvent& event);
     bool shortcut(Control& control, QObject* widget, QEvent& event);
     void focusCame(Control& control, const QFocusEvent& event);
@@ -158,6 +161,9 @@ class FormWindow : public QDialog, public FormWatcher {
     /// How often another window has come above this one and taken its events.
     unsigned timesBlocked_ = 0;
     bool following_ = false;
+    /// The panel that the pointer has come to. It counts as moved over once, until the pointer has been outside it: who
+    /// goes from field to field in a panel, or closes a message box above it, has not come back to it.
+    const QWidget* pointedAt_ = nullptr;
     /// Where the toolkit put the focus by itself.
     struct Wandered {
         Control* control = nullptr;

@@ -1,5 +1,6 @@
 // What the clerk does with pointer and keys, on its way to the form.
 
+#include <QApplication>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLabel>
@@ -15,6 +16,7 @@ namespace vorbano {
 
 bool FormWindow::event(QEvent* event) {
     if (event->type() == QEvent::WindowBlocked) ++timesBlocked_;
+    if (event->type() == QEvent::Enter) pointerCame(static_cast<QEnterEvent*>(event)->position().toPoint());
     return QDialog::event(event);
 }
 
@@ -48,6 +50,9 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::MouseButtonRelease:
         case QEvent::MouseMove:
             return qobject_cast<QLabel*>(watched) == nullptr && mouseEvent(*control, watched, *event);
+        case QEvent::Leave:
+            if (watched == pointedAt_) pointerLeft(*pointedAt_);
+            return false;
         case QEvent::KeyPress:
             return keyPressed(*control, *static_cast<QKeyEvent*>(event));
         case QEvent::Shortcut:
@@ -106,12 +111,23 @@ bool FormWindow::mousePressed(Control& control, QObject* part, const QMouseEvent
 bool FormWindow::framePointed(Frame& frame, const QMouseEvent& event) {
     if (event.type() == QEvent::MouseMove) {
         if (!frame.moved.hasProcedure() || event.buttons() != Qt::NoButton) return false;
+        if (std::exchange(pointedAt_, widgetOf(frame)) == widgetOf(frame)) return true;
         act(frame, [&](Operator& clerk) { return clerk.move(frame); });
         return true;
     }
     if (!frame.pressed.hasProcedure() || event.button() != Qt::LeftButton) return false;
     act(frame, [&](Operator& clerk) { return clerk.press(frame); });
     return true;
+}
+
+/// Not when another window has come above this one: then the pointer lies where it was.
+void FormWindow::pointerLeft(const QWidget& panel) {
+    const QWidget* above = QApplication::activeModalWidget();
+    if (pointedAt_ == &panel && (above == nullptr || above == this)) pointedAt_ = nullptr;
+}
+
+void FormWindow::pointerCame(QPoint at) {
+    if (pointedAt_ != nullptr && !pointedAt_->rect().contains(pointedAt_->mapFrom(this, at))) pointedAt_ = nullptr;
 }
 
 bool FormWindow::keyPressed(Control& control, const QKeyEvent& event) {

@@ -37,9 +37,23 @@
 //   [table dipendenti]             a long table, one line per row of that query, headings repeated on every page:
 //   totals = totali                a one-row query for the line of totals, which may be left out
 //   text = 9                       size of the text in px
+//   when = {{testata.Data}}        left out of the document when this text is empty
 //   group 1° periodo\n{{periodi.Primo}}        a title above the columns that follow, until `end`
 //   column 9 right | Fer. | {{A1fer}} | {{A1fer}}      width in mm (or *), alignment (left, right, centre, comma),
 //   end                                                 title, text of the cell, text of the cell of totals
+//   row = 9                        the least height of a row in mm: room to sign in
+//
+//   A table can fall into blocks, each with headings and totals of its own:
+//   block = {{SonoSeggio}}         rows that follow each other with the same text here are one block
+//   blocks = apart                 each block begins on a page of its own
+//   above 18 bold centre | Seggio n. {{SonoSeggio}}    a line above the titles of each block, repeated with them: size
+//   in
+//                                  px, bold or plain, alignment, text with the values of the block's first row. No text
+//                                  is an empty line; one whose values are all empty is left out
+//   below 12 plain left | ...      the same below each block, with the values of its last row
+//   column 24 comma | Onorario | {{onorario}} | | {{Totale}}    the fifth text: the cell of the line that ends each
+//   block,
+//                                  with the values of its last row
 //
 //   [space 4]                      that many mm of nothing
 //   [new-page]
@@ -98,7 +112,17 @@ struct TableColumn {
     TextTemplate title;
     TextTemplate cell;
     TextTemplate total;
+    TextTemplate blockTotal;
     int group = -1;
+    Origin origin;
+};
+
+/// A line of text above or below a block of a table.
+struct BlockLine {
+    double textSize = 11;  ///< px
+    bool bold = false;
+    Alignment alignment = Alignment::left;
+    TextTemplate text;
     Origin origin;
 };
 
@@ -106,9 +130,16 @@ struct TableSection {
     std::string query;
     std::string totals;
     double textSize = 11;  ///< px
+    double leastRow = 0;   ///< mm
+    TextTemplate when;     ///< the table is left out when this gives an empty text; no parts: it always stands
     std::vector<TextTemplate> groups;
     std::vector<Origin> groupOrigins;
     std::vector<TableColumn> columns;
+    TextTemplate block;  ///< no parts: the table is one block
+    Origin blockOrigin;
+    bool apart = false;
+    std::vector<BlockLine> above;
+    std::vector<BlockLine> below;
     Origin origin;
 };
 

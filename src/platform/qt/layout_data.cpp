@@ -119,7 +119,7 @@ int QueryResult::column(std::string_view name) const {
 }
 
 std::string_view QueryResult::cell(int row, int column) const {
-    if (row >= rows()) return {};
+    if (row < 0 || row >= rows()) return {};
     const std::size_t at = static_cast<std::size_t>(row) * columns_.size() + static_cast<std::size_t>(column);
     const std::uint32_t start = at == 0 ? 0 : ends_[at - 1];
     return std::string_view(texts_).substr(start, ends_[at] - start);

@@ -24,7 +24,7 @@ class QueryResult {
     /// -1 when the query has no such column; names are compared as written.
     [[nodiscard]] int column(std::string_view name) const;
     [[nodiscard]] const std::vector<std::string>& columns() const { return columns_; }
-    /// "" beyond the last row, so that a query without rows shows as blanks.
+    /// "" before the first and beyond the last row, so that a query without rows shows as blanks.
     [[nodiscard]] std::string_view cell(int row, int column) const;
 
     void setColumns(std::vector<std::string> columns) { columns_ = std::move(columns); }

@@ -19,6 +19,13 @@ std::optional<double> positive(std::string_view text) {
     return std::isfinite(value) && value >= 0 && value <= 2000 ? std::optional(value) : std::nullopt;
 }
 
+std::optional<Alignment> alignmentOf(std::string_view name) {
+    constexpr std::array<std::string_view, 4> names = {"left", "right", "centre", "comma"};
+    const auto at = std::find(names.begin(), names.end(), name);
+    if (at == names.end()) return std::nullopt;
+    return static_cast<Alignment>(at - names.begin());
+}
+
 /// Walks the lines of a layout; each section has a function for its heading and one for its lines.
 class Reader {
   public:
@@ -53,7 +60,9 @@ class Reader {
     Result<> displayLine(std::string_view text);
     Result<> htmlLine(const LayoutLine& line);
     Result<> tableLine(const LayoutLine& line);
+    Result<> tableProperty(std::string_view word, std::string_view value, const LayoutLine& line);
     Result<> columnLine(std::string_view text);
+    Result<> blockLine(std::vector<BlockLine>& lines, std::string_view from);
 
     Result<> finishHtml(HtmlSection& section) const;
     Result<> finishTable(const TableSection& section) const;
@@ -296,21 +305,58 @@ Result<> Reader::tableLine(const LayoutLine& line) {
         group_ = -1;
         return {};
     }
-    const std::string_view value = rest.starts_with('=') ? withoutBlanks(rest.substr(1)) : std::string_view();
+    if (word == "above") return blockLine(table.above, rest);
+    if (word == "below") return blockLine(table.below, rest);
+    return tableProperty(word, rest.starts_with('=') ? withoutBlanks(rest.substr(1)) : std::string_view(), line);
+}
+
+Result<> Reader::tableProperty(std::string_view word, std::string_view value, const LayoutLine& line) {
+    auto& table = std::get<TableSection>(layout_.sections.back());
     if (word == "totals" && !value.empty()) {
         table.totals = std::string(value);
         return {};
     }
     if (word == "text") return textSize(table.textSize, value);
+    if (word == "when" && !value.empty()) return text(table.when, value);
+    if (word == "block" && !value.empty()) {
+        table.blockOrigin = origin_;
+        return text(table.block, value);
+    }
+    if (word == "blocks" && value == "apart") {
+        table.apart = true;
+        return {};
+    }
+    if (word == "row") {
+        const auto height = positive(value);
+        if (!height || *height > 100) return fail("altezza della riga non valida: " + std::string(value));
+        table.leastRow = *height;
+        return {};
+    }
     return noLine(line);
+}
+
+Result<> Reader::blockLine(std::vector<BlockLine>& lines, std::string_view from) {
+    const auto bar = from.find('|');
+    const Words words = pieces(from.substr(0, bar));
+    const auto alignment = words.size() == 3 ? alignmentOf(words[2]) : std::nullopt;
+    const bool weight = words.size() == 3 && (words[1] == "bold" || words[1] == "plain");
+    if (bar == std::string_view::npos || !weight || !alignment || *alignment == Alignment::comma) {
+        return fail("riga non valida: above o below ALTEZZA bold|plain ALLINEAMENTO | testo");
+    }
+    BlockLine& line = lines.emplace_back();
+    line.bold = words[1] == "bold";
+    line.alignment = *alignment;
+    line.origin = origin_;
+    if (Result<> size = textSize(line.textSize, words[0]); !size) return size;
+    return text(line.text, from.substr(bar + 1));
 }
 
 Result<> Reader::columnLine(std::string_view from) {
     auto& table = std::get<TableSection>(layout_.sections.back());
     const Words fields = pieces(from, '|');
     const Words first = pieces(fields.front());
-    if (first.size() != 2 || fields.size() < 3 || fields.size() > 4) {
-        return fail("colonna non valida: column LARGHEZZA ALLINEAMENTO | titolo | testo | totale");
+    if (first.size() != 2 || fields.size() < 3 || fields.size() > 5) {
+        return fail("colonna non valida: column LARGHEZZA ALLINEAMENTO | titolo | testo | totale | totale del blocco");
     }
     TableColumn column;
     column.group = group_;
@@ -318,14 +364,16 @@ Result<> Reader::columnLine(std::string_view from) {
     const auto width = first[0] == "*" ? std::optional(0.0) : positive(first[0]);
     if (!width || (*width <= 0 && first[0] != "*")) return fail("larghezza non valida: " + first[0]);
     column.width = *width;
-    constexpr std::string_view alignments[] = {"left", "right", "centre", "comma"};
-    const auto alignment = std::find(std::begin(alignments), std::end(alignments), first[1]);
-    if (alignment == std::end(alignments)) return fail("allineamento sconosciuto: " + first[1]);
-    column.alignment = static_cast<Alignment>(alignment - std::begin(alignments));
+    const auto alignment = alignmentOf(first[1]);
+    if (!alignment) return fail("allineamento sconosciuto: " + first[1]);
+    column.alignment = *alignment;
     if (Result<> title = text(column.title, fields[1]); !title) return title;
     if (Result<> cell = text(column.cell, fields[2]); !cell) return cell;
-    if (fields.size() == 4) {
+    if (fields.size() > 3) {
         if (Result<> total = text(column.total, fields[3]); !total) return total;
+    }
+    if (fields.size() > 4) {
+        if (Result<> total = text(column.blockTotal, fields[4]); !total) return total;
     }
     table.columns.push_back(std::move(column));
     return {};
@@ -334,6 +382,10 @@ Result<> Reader::columnLine(std::string_view from) {
 Result<> Reader::finishTable(const TableSection& section) const {
     if (group_ >= 0) return layoutError(section.groupOrigins.back(), "il gruppo non è chiuso con end");
     if (section.columns.empty()) return layoutError(section.origin, "la tabella non ha colonne");
+    const bool ofBlocks = section.apart || !section.above.empty() || !section.below.empty() ||
+                          std::any_of(section.columns.begin(), section.columns.end(),
+                                      [](const TableColumn& column) { return !column.blockTotal.empty(); });
+    if (ofBlocks && section.block.empty()) return layoutError(section.origin, "manca block = testo del blocco");
     return {};
 }
 

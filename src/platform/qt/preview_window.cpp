@@ -102,9 +102,14 @@ void PreviewWindow::tell(const QString& words, bool failure) {
 void PreviewWindow::savePdf() {
     const QString path = ask_(this, proposedPdfName(document_.title()));
     if (path.isEmpty()) return;
-    const Result<> saved = document_.savePdf(path.toStdString());
-    const QString failure = saved ? QString() : QString::fromStdString(inItalian(saved.error()));
-    tell(saved ? QStringLiteral("Documento salvato: ") + QDir::toNativeSeparators(path) : failure, !saved);
+    const auto saved = document_.writePdf(path.toStdString(), *progressWindow(this, document_.title()));
+    if (!saved) {
+        tell(QString::fromStdString(inItalian(saved.error())), true);
+    } else if (*saved) {
+        tell(QStringLiteral("Documento salvato: ") + QDir::toNativeSeparators(path), false);
+    } else {
+        tell(QStringLiteral("Salvataggio annullato."), false);
+    }
 }
 
 void PreviewWindow::print() {

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDate>
 #include <QEventLoop>
+#include <QGridLayout>
 #include <QGuiApplication>
 #include <QMessageBox>
 #include <QPointer>
@@ -49,6 +50,11 @@ class Box : public QMessageBox {
         setIconPixmap(drawnSign(message.icon, 40, devicePixelRatioF()));
         setWindowTitle(shown(message.title));
         setText(shown(message.text));
+        // Not by a style sheet: the box would then take it for the width of its text, and cut what is longer.
+        constexpr int narrowest = 240;
+        if (auto* grid = qobject_cast<QGridLayout*>(layout())) {
+            grid->setColumnMinimumWidth(grid->columnCount() - 1, narrowest);
+        }
     }
 
     /// Waits for the answer; the window that was in front then has the keyboard again.

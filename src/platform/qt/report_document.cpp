@@ -17,6 +17,12 @@ constexpr double pxInInch = 96;
 constexpr double footHeight = 22;
 constexpr double footTextSize = 9.5;
 
+class Unwatched : public JobWatch {
+  public:
+    bool goesOn(int /*done*/, int /*all*/) override { return true; }
+    void cannotStopNow() override {}
+};
+
 QRectF contentRect(const QPageLayout& layout) {
     const QRectF inches = layout.paintRect(QPageLayout::Inch);
     return {inches.x() * pxInInch, inches.y() * pxInInch, inches.width() * pxInInch, inches.height() * pxInInch};
@@ -98,7 +104,8 @@ void ReportDocument::paintFoot(int page, QPainter& painter) const {
     painter.restore();
 }
 
-Result<> ReportDocument::paintOn(QPagedPaintDevice& device, const std::string& name) const {
+Result<bool> ReportDocument::paintOn(QPagedPaintDevice& device, const std::string& name, JobWatch& watch, int before,
+                                     int all) const {
     device.setPageLayout(setup_.layout);
     // The margins are ours: what is painted begins at the corner of the sheet.
     device.setPageMargins(QMarginsF(0, 0, 0, 0));
@@ -110,11 +117,19 @@ Result<> ReportDocument::paintOn(QPagedPaintDevice& device, const std::string& n
         painter.scale(painter.device()->logicalDpiX() / pxInInch, painter.device()->logicalDpiY() / pxInInch);
         paintPage(page, painter);
         painter.restore();
+        if (!watch.goesOn(before + page + 1, all)) return false;
     }
-    return painter.end() ? Result<>() : Error{Failure::device, name};
+    if (!painter.end()) return Error{Failure::device, name};
+    return true;
 }
 
 Result<> ReportDocument::savePdf(const std::string& path) {
+    Unwatched unwatched;
+    const auto written = writePdf(path, unwatched);
+    return written ? Result<>() : written.error();
+}
+
+Result<bool> ReportDocument::writePdf(const std::string& path, JobWatch& watch) const {
     const QString target = QString::fromStdString(path);
     const std::string name = QFileInfo(target).fileName().toStdString();
     // Written beside its place: a disk that fills up does not leave half an act under the name of a whole one.
@@ -125,9 +140,11 @@ Result<> ReportDocument::savePdf(const std::string& path) {
         writer.setPdfVersion(QPagedPaintDevice::PdfVersion_A1b);
         writer.setTitle(setup_.title);
         writer.setCreator(QStringLiteral("Vorbano"));
-        if (Result<> painted = paintOn(writer, name); !painted) return painted;
+        auto painted = paintOn(writer, name, watch, 0, pages());
+        if (!painted || !*painted) return painted;
     }
-    return file.commit() ? Result<>() : Error{Failure::device, name};
+    if (!file.commit()) return Error{Failure::device, name};
+    return true;
 }
 
 }  // namespace vorbano

@@ -9,6 +9,7 @@
 
 #include "platform/print_engine.h"
 #include "platform/qt/document_piece.h"
+#include "platform/qt/job_watch.h"
 
 class QPagedPaintDevice;
 class QPainter;
@@ -41,8 +42,14 @@ class ReportDocument : public Document {
     [[nodiscard]] const QString& title() const { return setup_.title; }
     /// Paints a page (from 0) with its margins; the painter's unit is 1/96 inch.
     void paintPage(int page, QPainter& painter) const;
-    /// The same on a printer or file that is ready to begin; `refused` when it does not let itself be painted on.
-    Result<> paintOn(QPagedPaintDevice& device, const std::string& name) const;
+    /// Paints all pages on a printer or file that is ready to begin, and gives back whether it went on to the end;
+    /// `refused` when the device does not let itself be painted on. `watch` is told of every page, counted from
+    /// `before` of `all`, and may stop it.
+    Result<bool> paintOn(QPagedPaintDevice& device, const std::string& name, JobWatch& watch, int before,
+                         int all) const;
+    /// As `savePdf`, watched: gives back whether the file was written. A job that was stopped leaves the place as it
+    /// was.
+    Result<bool> writePdf(const std::string& path, JobWatch& watch) const;
 
     /// Width and height of what is between the margins and above the foot.
     [[nodiscard]] static QSizeF contentSize(const QPageLayout& layout);

@@ -1,5 +1,6 @@
 #include "platform/qt/report_engine.h"
 
+#include "platform/qt/plain_document.h"
 #include "platform/qt/preview_window.h"
 
 namespace vorbano {
@@ -12,5 +13,7 @@ Result<> QtPrintEngine::run(const PrintJob& job) {
     window.exec();
     return {};
 }
+
+Result<> QtPrintEngine::printPage(const PlainPage& page) { return printer_.print(*plainDocument(page), page.title); }
 
 }  // namespace vorbano

@@ -18,6 +18,7 @@ class QtPrintEngine : public PrintEngine {
         : renderer_(renderer), printer_(printer), above_(std::move(above)) {}
 
     Result<> run(const PrintJob& job) override;
+    Result<> printPage(const PlainPage& page) override;
 
   private:
     QtRenderer& renderer_;

@@ -61,6 +61,9 @@ class Maker {
     }
 
     Result<> add(const TableSection& section) {
+        const auto when = BoundText::bind(section.when, content_.data, nullptr, section.origin);
+        if (!when) return when.error();
+        if (!section.when.parts.empty() && when->filled().empty()) return {};
         auto table = TablePiece::make(section, content_.data, style_.family, width_);
         if (!table) return table.error();
         push(std::move(*table));

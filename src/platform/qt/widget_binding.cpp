@@ -24,22 +24,6 @@ QWidget* newWidget(QWidget* parent) {
     return new Widget(parent);
 }
 
-QString toneName(Tone tone) {
-    switch (tone) {
-        case Tone::plain:
-            return QStringLiteral("plain");
-        case Tone::done:
-            return QStringLiteral("done");
-        case Tone::active:
-            return QStringLiteral("active");
-        case Tone::oldTariffs:
-            return QStringLiteral("oldTariffs");
-        case Tone::newTariffs:
-            return QStringLiteral("newTariffs");
-    }
-    return {};
-}
-
 /// The caption that a widget shows for the form's one. The window's own words stay as long as the program has given
 /// none, and where they only add a mnemonic.
 QString caption(QWidget& widget, const QString& present, const std::string& wanted) {
@@ -69,7 +53,13 @@ void bringTextBox(const Control& control, QWidget& widget) {
     const int most = box.maxLength == 0 ? anyLength : std::max(box.maxLength, static_cast<int>(text.size()));
     if (line.maxLength() != most) line.setMaxLength(most);  // even an equal one would take the marking away
     if (line.text() != text) line.setText(text);
+    if (box.markedFrom() >= 0) {
+        const auto before =
+            static_cast<int>(shown(box.text().substr(0, static_cast<std::size_t>(box.markedFrom()))).size());
+        line.setSelection(before, static_cast<int>(text.size()) - before);
+    }
     line.setReadOnly(box.locked());
+    setStyleMark(widget, "tone", toneName(box.tone()));
 }
 
 // Label
@@ -235,6 +225,24 @@ QString withoutMnemonic(QString caption) {
     caption = caption.trimmed();
     if (caption.endsWith(':')) caption.chop(1);
     return caption;
+}
+
+QString toneName(Tone tone) {
+    switch (tone) {
+        case Tone::plain:
+            return QStringLiteral("plain");
+        case Tone::done:
+            return QStringLiteral("done");
+        case Tone::active:
+            return QStringLiteral("active");
+        case Tone::wrong:
+            return QStringLiteral("wrong");
+        case Tone::oldTariffs:
+            return QStringLiteral("oldTariffs");
+        case Tone::newTariffs:
+            return QStringLiteral("newTariffs");
+    }
+    return {};
 }
 
 void setStyleMark(QWidget& widget, const char* property, const QString& value) {

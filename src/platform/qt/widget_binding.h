@@ -66,6 +66,8 @@ struct WidgetBinding {
 [[nodiscard]] QString withoutMnemonic(QString caption);
 /// Sets the property that the style sheet looks at, and lets it look again when it changed.
 void setStyleMark(QWidget& widget, const char* property, const QString& value);
+/// The tone as the style sheet knows it.
+[[nodiscard]] QString toneName(Tone tone);
 
 // The rows for lists (widget_binding_lists.cpp).
 extern const WidgetBinding comboBinding;

@@ -183,6 +183,32 @@ bool isNumber(const QString& text) {
     return number.match(text).hasMatch();
 }
 
+void bringGrid(const Control& control, QWidget& widget) {
+    setStyleMark(widget, "tone", toneName(static_cast<const Grid&>(control).tone()));
+}
+
+/// Every column is as wide as what stands in it, and one takes the room that is left: the last one, or the one that the
+/// .ui names. That one also gives way when there is too little; its texts can then be read under the pointer.
+void shareRoom(QTableWidget& table) {
+    // The scroll bar first, so that the room that is left is counted beside it.
+    QHeaderView* header = table.horizontalHeader();
+    header->setStretchLastSection(false);
+    header->setSectionResizeMode(QHeaderView::Interactive);
+    table.resizeColumnsToContents();
+    table.doItemsLayout();
+    const QVariant named = table.property("stretchColumn");
+    const int column = named.toInt();
+    if (!named.isValid() || column >= table.columnCount()) {
+        header->setStretchLastSection(true);
+        return;
+    }
+    header->setSectionResizeMode(column, QHeaderView::Stretch);
+    for (int row = 0; row < table.rowCount(); ++row) {
+        QTableWidgetItem* item = table.item(row, column);
+        item->setToolTip(item->text());
+    }
+}
+
 void bringGridCells(const Control& control, QWidget& widget) {
     const auto& grid = static_cast<const Grid&>(control);
     auto& table = static_cast<QTableWidget&>(widget);
@@ -211,7 +237,7 @@ void bringGridCells(const Control& control, QWidget& widget) {
             table.setItem(row - 1, column, item);
         }
     }
-    table.resizeColumnsToContents();
+    shareRoom(table);
 }
 
 void pickCell(Control& control, int row, int column, const Act& act) {
@@ -321,6 +347,7 @@ const WidgetBinding gridBinding{.kind = Kind::grid,
                                 .classes = {"QTableWidget"},
                                 .make = newWidget<QTableWidget>,
                                 .hang = hangGrid,
+                                .bring = bringGrid,
                                 .bringContent = bringGridCells,
                                 .pressAt = pressGrid,
                                 .key = gridKey,

@@ -121,6 +121,18 @@ TEST_F(DocumentTest, ShowsATableWithoutRowsWithItsHeadings) {
     EXPECT_EQ(timesOn(*document, 0, "0,00"), 1);
 }
 
+TEST_F(DocumentTest, LeavesATableOutWhenItsConditionIsEmpty) {
+    append("Tabella3", Row().setText("Nome", "ROSSI"));
+    append("Tabella5", Row().setText("Comune", "Borgo"));
+    const auto document = good(employees +
+                               "[row t]\nSELECT Comune, Data FROM Tabella5\n"
+                               "[table d]\nwhen = {{t.Comune}}\ncolumn 40 left | Nome | {{Nome}}\n"
+                               "[table d]\nwhen = {{t.Data}}\ncolumn 40 left | Cognome | {{Nome}}\n");
+    EXPECT_EQ(timesOn(*document, 0, "Nome"), 1);
+    EXPECT_EQ(timesOn(*document, 0, "Cognome"), 0);
+    EXPECT_EQ(timesOn(*document, 0, "ROSSI"), 1);
+}
+
 TEST_F(DocumentTest, BreaksLongTextsBetweenLines) {
     std::string text = head + "[html]\n";
     for (int line = 1; line <= 200; ++line) text += QStringLiteral("<p>riga %1</p>\n").arg(line).toStdString();
@@ -164,6 +176,8 @@ TEST_F(DocumentTest, TellsWhatIsWrongWithALayout) {
               "prova.rpt:9: campo sconosciuto: {{Cognome}}");
     EXPECT_EQ(mistake(employees + "[table d]\ngroup {{Nome}}\ncolumn 9 left | a | b\nend\n"),
               "prova.rpt:8: campo sconosciuto: {{Nome}}");
+    EXPECT_EQ(mistake(employees + "[table d]\nwhen = {{t.Data}}\ncolumn 9 left | a | b\n"),
+              "prova.rpt:7: campo sconosciuto: {{t.Data}}");
     EXPECT_EQ(mistake("[page]\nfoot = {{testata.Comune}}\n"), "prova.rpt:1: campo sconosciuto: {{testata.Comune}}");
 }
 

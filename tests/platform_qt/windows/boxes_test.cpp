@@ -1,5 +1,6 @@
 // A message box in the middle of a gesture loses nothing of it.
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -157,6 +158,27 @@ TEST_F(Boxes, TheWordsOfABoxAreNeverReadAsMarkup) {
     whenBoxComes(told, "OK");
     click(screen.cmdSalva);
     EXPECT_THAT(told, ElementsAre("Errore: <b>Rossi</b>\n\nriga  due"));
+}
+
+TEST_F(Boxes, TheWordsOfABoxAreShownWhole) {
+    for (const char* text : {"Operazione terminata", "Dipendente n. 7 inesistente. I dipendenti inseriti sono n. 6",
+                             "Sono state modificate le ore liquidate del 1° periodo\nSe volete confermare la modifica "
+                             "scegliere SI.\nSe volete annullare le modifiche scegliere NO"}) {
+        QTimer::singleShot(0, qApp, [text] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            const auto* label = box->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+            ASSERT_NE(label, nullptr);
+            const QRect words(QPoint(), QSize(label->width(), QWIDGETSIZE_MAX));
+            const int flags = label->wordWrap() ? Qt::TextWordWrap : 0;
+            const QRect needed = label->fontMetrics().boundingRect(words, flags, QString::fromUtf8(text));
+            EXPECT_GE(label->width(), needed.width()) << text;
+            EXPECT_GE(label->height(), needed.height()) << text;
+            EXPECT_GE(label->width(), 240);
+            box->done(0);
+        });
+        desk.tell({text, "Errore", vorbano::Icon::warning});
+    }
 }
 
 TEST_F(Boxes, EnterAnswersYesAndEscAnswersNo) {

@@ -54,6 +54,31 @@ TEST_F(Focus, TheProgramMovesTheFocus) {
     EXPECT_EQ(keyboard(), "cmdSalva");
 }
 
+TEST_F(Focus, AFieldThatDisablesItselfOnLeavingHandsTheKeyboardOn) {
+    screen.cmdSalva.enabled = false;
+    screen.txtOre.lostFocus.calls([this] {
+        screen.txtOre.enabled = false;
+        screen.cmdSalva.enabled = true;
+        screen.form.focus(screen.cmdSalva);
+    });
+    screen.form.focus(screen.txtOre);
+    key(Qt::Key_Tab);
+    EXPECT_EQ(screen.form.focused(), &screen.cmdSalva);
+    EXPECT_EQ(keyboard(), "cmdSalva");
+}
+
+TEST_F(Focus, AButtonThatDisablesItselfHandsTheKeyboardOn) {
+    screen.Frame1.visible = false;
+    screen.cmdSalva.clicked.calls([this] {
+        screen.Frame1.visible = true;
+        screen.cmdSalva.enabled = false;
+        screen.form.focus(screen.txtOre);
+    });
+    click(screen.cmdSalva);
+    EXPECT_EQ(screen.form.focused(), &screen.txtOre);
+    EXPECT_EQ(keyboard(), "txtOre");
+}
+
 TEST_F(Focus, AClickAfterALeaveThatTookTheFocusBackIsDropped) {
     screen.txtData.lostFocus.calls([this] { screen.form.focus(screen.txtData); });
     click(screen.cmdSalva);

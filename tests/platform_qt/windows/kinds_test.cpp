@@ -4,6 +4,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -112,6 +113,8 @@ TEST_F(Kinds, TheToneReachesTheStyleSheet) {
     EXPECT_EQ(widget(screen.Label1).property("tone"), "oldTariffs");
     EXPECT_EQ(widget(screen.Frame1).property("tone"), "done");
     EXPECT_EQ(widget(screen.cmdSalva).property("tone"), "active");
+    screen.MSFlexGrid1.tone = Tone::active;
+    EXPECT_EQ(widget(screen.MSFlexGrid1).property("tone"), "active");
     screen.Label1.tone = Tone::newTariffs;
     EXPECT_EQ(widget(screen.Label1).property("tone"), "newTariffs");
     screen.Label1.tone = Tone::plain;
@@ -237,6 +240,23 @@ TEST_F(Kinds, ThePanelHearsThePointer) {
     QTest::mouseMove(&widget(screen.Frame1), corner);
     QApplication::processEvents();
     EXPECT_THAT(screen.log, testing::Contains("Frame1 moved"));
+}
+
+TEST_F(Kinds, ThePointerComesToAPanelOnceUntilItHasBeenOutside) {
+    QWidget& panel = widget(screen.Frame1);
+    const auto moveTo = [&](QPoint at) {
+        QMouseEvent move(QEvent::MouseMove, at, panel.mapToGlobal(at), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(&panel, &move);
+    };
+    screen.log.clear();
+    moveTo({3, 3});
+    moveTo({4, 3});
+    moveTo({5, 3});
+    EXPECT_THAT(screen.log, ElementsAre("Frame1 moved"));
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(&panel, &leave);
+    moveTo({3, 3});
+    EXPECT_THAT(screen.log, ElementsAre("Frame1 moved", "Frame1 moved"));
 }
 
 TEST_F(Kinds, AFieldInAPanelIsNoPressOnThePanel) {

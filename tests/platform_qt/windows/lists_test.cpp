@@ -145,6 +145,28 @@ TEST_F(Lists, TheGridFollowsTheProgram) {
     EXPECT_EQ(table().rowCount(), 0);
 }
 
+TEST_F(Lists, TheLastColumnTakesTheRoomThatIsLeft) {
+    screen.SSTab1.page = 1;
+    QApplication::processEvents();
+    const QHeaderView& header = *table().horizontalHeader();
+    EXPECT_EQ(header.length(), table().viewport()->width());
+    EXPECT_GT(header.sectionSize(3), header.sectionSize(1));
+}
+
+TEST_F(Lists, ANamedColumnTakesTheRoomAndGivesIt) {
+    screen.SSTab1.page = 1;
+    table().setProperty("stretchColumn", 1);
+    for (const std::string& name : {std::string("Bianchi Anna"), std::string(400, 'M')}) {
+        screen.MSFlexGrid1.setRows({{"1", name, "3", "20,00"}});
+        window->settle();
+        QApplication::processEvents();
+        const QHeaderView& header = *table().horizontalHeader();
+        EXPECT_EQ(header.length(), table().viewport()->width());
+        EXPECT_LT(header.sectionSize(3), header.sectionSize(1));
+        EXPECT_EQ(table().item(0, 1)->toolTip().toStdString(), name);
+    }
+}
+
 TEST_F(Lists, ACellIsPickedWithThePointer) {
     screen.SSTab1.page = 1;
     QApplication::processEvents();
