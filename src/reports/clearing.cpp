@@ -33,9 +33,15 @@ constexpr std::array contributions = {Step{"Tabella3", Rows::dipendenti}, Step{"
                                       Step{"Tabella10", Rows::first},     Step{"Tabella11", Rows::all},
                                       Step{"Tabella8", Rows::all}};
 
+constexpr std::array paymentList = {Step{"Tabella3", Rows::all},  Step{"Tabella4", Rows::all},
+                                    Step{"Tabella5", Rows::all},  Step{"Tabella6", Rows::all},
+                                    Step{"Tabella10", Rows::all}, Step{"Tabella11", Rows::all}};
+constexpr std::array paymentRows = {Step{"Tabella11", Rows::all}};
+
 /// In the order of `Clearing`.
-constexpr std::array<std::span<const Step>, 7> routines = {byEmployees,    byEmployees, byRows,       stationTotals,
-                                                           stationMembers, statement,   contributions};
+constexpr std::array<std::span<const Step>, 9> routines = {byEmployees,   byEmployees,    byRows,
+                                                           stationTotals, stationMembers, statement,
+                                                           contributions, paymentList,    paymentRows};
 
 Result<> take(Database& staging, const Step& step, int dipendenti) {
     switch (step.rows) {

@@ -9,7 +9,17 @@
 namespace vorbano {
 
 /// The routines by their names. They do not clear alike, which is deliberate.
-enum class Clearing : std::uint8_t { Cancella1, Cancella2, Cancella3, Cancella4, Cancella5, Cancella6, Cancella7 };
+enum class Clearing : std::uint8_t {
+    Cancella1,
+    Cancella2,
+    Cancella3,
+    Cancella4,
+    Cancella5,
+    Cancella6,
+    Cancella7,
+    Deletebase,  ///< of the payments: all rows of the tables of their list
+    VedoElenco,  ///< of the payments: all rows of `Tabella11`
+};
 
 /// Clears what `routine` clears. `dipendenti` is the number of employees that record 1 of the election gives:
 /// `Cancella1`, `Cancella2` and `Cancella7` delete so many rows of the employee table and leave a surplus for the next

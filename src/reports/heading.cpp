@@ -45,15 +45,21 @@ std::optional<std::string> dateCaption(std::string_view date) {
     return caption;
 }
 
-Result<> appendHeading(FileSystem& files, Database& staging, const Heading& heading) {
+Result<Row> headingRow(FileSystem& files, const Heading& heading) {
     const auto ente = onlyRecord<NameRecord>(files, enteFile);
     if (!ente) return ente.error();
     Row row;
     row.setText("Comune", *ente ? (*ente)->name.trimmed() : std::string())
         .setText("Elezione", heading.Elezione)
-        .setText("Data", heading.Data)
-        .setText("Databall", heading.Databall);
-    return staging.append("Tabella5", row);
+        .setText("Data", heading.Data);
+    if (heading.Databall) row.setText("Databall", *heading.Databall);
+    return row;
+}
+
+Result<> appendHeading(FileSystem& files, Database& staging, const Heading& heading) {
+    const auto row = headingRow(files, heading);
+    if (!row) return row.error();
+    return staging.append("Tabella5", *row);
 }
 
 }  // namespace vorbano

@@ -15,7 +15,7 @@ namespace vorbano {
 struct Heading {
     std::string Elezione;
     std::string Data;
-    std::string Databall;
+    std::optional<std::string> Databall;  ///< the documents of the payments have none
 };
 
 /// `lblElezione`: "Europee_Comunali" is "Europee e Comunali".
@@ -26,7 +26,10 @@ struct Heading {
 /// `lblAggio`: the edition of the program, never the date of a ballot.
 inline constexpr std::string_view editionCaption = "{Vorbano 3.9 edizione 2014}";
 
-/// Appends the row of `Tabella5`, with the name of the municipality as Ente.dat has it; empty when none was entered.
+/// The row of `Tabella5`, with the name of the municipality as Ente.dat has it, empty when none was entered, and
+/// without `Databall` when the heading has none.
+[[nodiscard]] Result<Row> headingRow(FileSystem& files, const Heading& heading);
+/// Appends it.
 [[nodiscard]] Result<> appendHeading(FileSystem& files, Database& staging, const Heading& heading);
 
 }  // namespace vorbano

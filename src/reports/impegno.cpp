@@ -11,9 +11,7 @@ namespace vorbano {
 namespace {
 
 /// `TotaleContr` stays as the record has it.
-Row rowFor(const Employee& employee) {
-    Row row = Database1(employee.record);
-    addLatePeriods(row, employee);
+void addCost(Row& row, const Employee& employee) {
     const Commitment cost = commitmentFor(employee.periods, employee.record.pay);
     row.set("Dovuto", amountValue(cost.Dovuto))
         .set("CpStato", amountValue(cost.CpStato))
@@ -21,18 +19,6 @@ Row rowFor(const Employee& employee) {
         .set("TotaleSpesa", amountValue(cost.TotaleSpesa))
         .set("CpDip", amountValue(cost.CpDip))
         .set("FonCre", amountValue(cost.FonCre));
-    return row;
-}
-
-Result<> fill(const Workplace& desk, const Election& election, const std::vector<Employee>& employees,
-              const Heading& heading) {
-    for (const Employee& employee : employees) {
-        if (auto appended = desk.staging.append("Tabella3", rowFor(employee)); !appended) return appended;
-    }
-    const auto totals = electionTotals(desk.files, election);
-    if (!totals) return totals.error();
-    // The act has always carried these two dates, whatever the election.
-    return appendCompanions(desk.files, desk.staging, *totals, heading, {"01-12-00", "31-12-00"});
 }
 
 std::string layoutFor(LatePeriods late) {
@@ -58,12 +44,11 @@ Commitment commitmentFor(const std::array<PeriodBlock, maxPeriods>& periods, con
 }
 
 Result<> printImpegno(const Workplace& desk, const Election& election, LatePeriods late, const Heading& heading) {
-    const auto employees = readEmployees(desk.files, election, late);
-    if (!employees) return employees.error();
-    return produce(desk, {.fill = [&] { return fill(desk, election, *employees, heading); },
-                          .job = {layoutFor(late), "IMPEGNO DI SPESA", Destination::preview},
+    return printOvertime(desk, election, late, heading,
+                         {.job = {layoutFor(late), "IMPEGNO DI SPESA", Destination::preview},
+                          .dates = fixedLegalDates,
                           .clearing = Clearing::Cancella1,
-                          .dipendenti = dipendentiOf(*employees)});
+                          .addToEmployee = addCost});
 }
 
 }  // namespace vorbano

@@ -2,8 +2,7 @@
 
 // "IMPEGNO DI SPESA": what the authorised hours of an election will cost.
 
-#include "reports/document.h"
-#include "reports/overtime_rows.h"
+#include "reports/overtime_document.h"
 
 namespace vorbano {
 

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <utility>
 
+#include "overtime/meirin_periods.h"
 #include "records/tariff_records.h"
 #include "screens/staging_value.h"
 #include "storage/only_record.h"
@@ -149,11 +150,12 @@ void addLatePeriods(Row& row, const Employee& employee) {
 }
 
 Result<Row> electionTotals(FileSystem& files, const Election& election) {
-    const auto path = election.file(meirinFile);
-    if (!path) return path.error();
-    const auto stored = onlyRecord<MeirinRecord>(files, *path);
-    if (!stored) return stored.error();
-    const MeirinRecord meirin = stored->value_or(MeirinRecord{});
+    const auto meirin = readMeirin(files, election);
+    if (!meirin) return meirin.error();
+    return totalsFrom(*meirin);
+}
+
+Row totalsFrom(const MeirinRecord& meirin) {
     Row row;
     row.set("Irpef", amountValue(meirin.irpef)).set("inail", amountValue(meirin.inail));
     row.setText("datainail", meirin.inailDate.trimmed());

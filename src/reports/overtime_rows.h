@@ -39,7 +39,9 @@ struct Employee {
 /// Adds periods four and five to it.
 void addLatePeriods(Row& row, const Employee& employee);
 
-/// The row of `Tabella4` that all have in common, from the election's Meirin.vbn; zeros when that file is empty.
+/// The row of `Tabella4` that all have in common.
+[[nodiscard]] Row totalsFrom(const MeirinRecord& meirin);
+/// The same row, read from the election's Meirin.vbn; zeros when that file is empty.
 [[nodiscard]] Result<Row> electionTotals(FileSystem& files, const Election& election);
 
 /// The legal dates of `Tabella6`.

@@ -31,6 +31,9 @@ struct LaidEmployee {
     std::array<int, 3> rates{};
     std::array<LaidPeriod, 5> periods{};
     int totaleContr = 0;
+    int dovuto = 100;
+    int cpStato = 200;
+    int irap = 300;
 };
 
 inline std::string threeIntegers(const ThreeHours& hours) { return le16(hours[0]) + le16(hours[1]) + le16(hours[2]); }
@@ -48,12 +51,13 @@ inline std::string poolBytes(int number, int dipendenti) {
     return le16(70) + le16(9) + le16(210) + le16(250) + le16(number) + le16(dipendenti);
 }
 
-/// The amounts are those of a liquidation (1,00 paid, and so on), which no commitment may take over; the percentages
-/// are 23,80, 8,50, 8,85 and 0,35.
+/// The amounts are those of a liquidation (1,00 due unless the employee says otherwise, and so on), which no commitment
+/// may take over; the percentages are 23,80, 8,50, 8,85 and 0,35.
 inline std::string payBytes(const LaidEmployee& employee) {
-    return cents64(employee.rates[0]) + cents64(employee.rates[1]) + cents64(employee.rates[2]) + amount(1) +
-           amount(23, 80) + amount(2) + amount(8, 50) + amount(3) + amount(5) + amount(8, 85) + amount(6) +
-           amount(0, 35) + amount(7) + cents64(employee.totaleContr);
+    return cents64(employee.rates[0]) + cents64(employee.rates[1]) + cents64(employee.rates[2]) +
+           cents64(employee.dovuto) + amount(23, 80) + cents64(employee.cpStato) + amount(8, 50) +
+           cents64(employee.irap) + amount(5) + amount(8, 85) + amount(6) + amount(0, 35) + amount(7) +
+           cents64(employee.totaleContr);
 }
 
 /// 301 bytes.
@@ -114,8 +118,7 @@ inline std::vector<LaidEmployee> threeEmployees() {
 /// Lays the overtime of an election with Ente.dat and Conprev.dat; with Quartum.vbn and Pentium.vbn as `periods` tells.
 /// `dipendenti` 0 is the number of employees laid. False when a file could not be laid.
 inline bool layOvertime(FileSystem& files, const std::string& kind, const std::string& date, int periods,
-                        int dipendenti = 0) {
-    const auto employees = threeEmployees();
+                        int dipendenti = 0, const std::vector<LaidEmployee>& employees = threeEmployees()) {
     const int told = dipendenti == 0 ? static_cast<int>(employees.size()) : dipendenti;
     const std::string folder = "Elezioni/" + kind + "/" + date + "/";
     std::string main;

@@ -1,40 +1,25 @@
+#include "failing_desk.h"
+#include "reports/determina.h"
 #include "reports/impegno.h"
+#include "reports/lrendiconto.h"
 #include "stampe_desk.h"
 #include "storage/failing_file_system.h"
 
 namespace vorbano::test {
 namespace {
 
-/// A print engine whose layout is not there.
-class NoLayout : public PrintEngine {
-  public:
-    Result<> run(const PrintJob& job) override { return Error{Failure::notFound, job.layout}; }
+/// One of the three documents made from the overtime: its command, its layout, its procedure.
+struct Document {
+    const char* name;
+    Button frmTutteStampe::*command;
+    const char* layout;
+    Result<> (*print)(const Workplace& desk);
 };
 
-/// A database that fails at its n-th appending.
-class FailingDatabase : public MemoryDatabase {
-  public:
-    FailingDatabase() : MemoryDatabase(stagingTables()) {}
-    int failAt = 0;
-    int appends = 0;
-    int begun = 0;
-    int committed = 0;
+const Election election{"Europee_Comunali", "26-05-13"};
+constexpr LatePeriods allFive{true, true};
 
-    Result<> append(std::string_view table, const Row& row) override {
-        if (++appends == failAt) return Error{Failure::device, "dbStampa.mdb"};
-        return MemoryDatabase::append(table, row);
-    }
-    Result<> begin() override {
-        ++begun;
-        return {};
-    }
-    Result<> commit() override {
-        ++committed;
-        return {};
-    }
-};
-
-class ImpegnoFaults : public ReportsDesk {
+class OvertimeFaults : public ReportsDesk, public testing::WithParamInterface<Document> {
   protected:
     void SetUp() override { ASSERT_TRUE(layOvertime(files, "Europee_Comunali", "26-05-13", 5)); }
     /// Opens the screen on a desk, searches for the election and asks for the document.
@@ -45,25 +30,26 @@ class ImpegnoFaults : public ReportsDesk {
         ASSERT_EQ(hand.choose(stampe.Combo1, "Europee_Comunali"), Refusal::none);
         ASSERT_EQ(hand.choose(stampe.Combo4, "26-05-13"), Refusal::none);
         ASSERT_EQ(hand.click(stampe.cmdAnteprima), Refusal::none);
-        ASSERT_EQ(hand.click(stampe.cmdImpegno), Refusal::none);
-        EXPECT_TRUE(stampe.cmdImpegno.isOperable());
+        Button& command = stampe.*GetParam().command;
+        ASSERT_EQ(hand.click(command), Refusal::none);
+        EXPECT_TRUE(command.isOperable());
     }
 };
 
-TEST_F(ImpegnoFaults, MissingLayoutIsToldAndTheTablesAreCleared) {
+TEST_P(OvertimeFaults, MissingLayoutIsToldAndTheTablesAreCleared) {
     NoLayout broken;
-    desktop.box("Errore", "Manca il file impstrp.rpt.");
-    printOn({files, desktop, staging, broken, screens});
+    desktop.box("Errore", std::string("Manca il file ") + GetParam().layout + ".");
+    printOn({files, desktop, staging, broken, screens, places});
     expectEmptyTables();
 }
 
-TEST_F(ImpegnoFaults, DatabaseThatFailsInTheFillingIsToldAndCleared) {
+TEST_P(OvertimeFaults, DatabaseThatFailsInTheFillingIsToldAndCleared) {
     // Three employees, then Tabella4, Tabella5, Tabella6, Tabella10.
     for (int n = 1; n <= 7; ++n) {
         FailingDatabase failing;
         failing.failAt = n;
         desktop.box("Errore", "Il disco non ha completato l'operazione sul file dbStampa.mdb.");
-        printOn({files, desktop, failing, printing, screens});
+        printOn({files, desktop, failing, printing, screens, places});
         EXPECT_TRUE(printing.jobs.empty()) << "no layout over half-filled tables, failing at " << n;
         const Snapshot left(failing);
         for (const TableInfo& table : stagingTables()) EXPECT_EQ(left.rows(std::string(table.name)), 0) << n;
@@ -71,35 +57,34 @@ TEST_F(ImpegnoFaults, DatabaseThatFailsInTheFillingIsToldAndCleared) {
     }
 }
 
-TEST_F(ImpegnoFaults, TheFillingIsOneGo) {
+TEST_P(OvertimeFaults, TheFillingIsOneGo) {
     FailingDatabase counting;
-    printOn({files, desktop, counting, printing, screens});
+    printOn({files, desktop, counting, printing, screens, places});
     EXPECT_EQ(counting.appends, 7);
     EXPECT_EQ(counting.begun, 1);
     EXPECT_EQ(counting.committed, 1);
 }
 
-TEST_F(ImpegnoFaults, MissingTableIsToldOnce) {
+TEST_P(OvertimeFaults, MissingTableIsToldOnce) {
     MemoryDatabase empty({});
     desktop.box("Errore", "Manca il file Tabella3.");
-    printOn({files, desktop, empty, printing, screens});
+    printOn({files, desktop, empty, printing, screens, places});
     EXPECT_TRUE(printing.jobs.empty());
 }
 
-TEST_F(ImpegnoFaults, DiskThatFailsAtAnyPointLeavesRecordsAndTablesAsTheyWere) {
-    const Election election{"Europee_Comunali", "26-05-13"};
+TEST_P(OvertimeFaults, DiskThatFailsAtAnyPointLeavesRecordsAndTablesAsTheyWere) {
     const std::string folder = "Elezioni/Europee_Comunali/26-05-13/";
     const std::string before = contentOf(files, folder + "26-05-13.vbn") + contentOf(files, folder + "Quartum.vbn") +
                                contentOf(files, folder + "Pentium.vbn") + contentOf(files, folder + "Meirin.vbn");
     FailingFileSystem failing(files);
-    const Workplace onBadDisk{failing, desktop, staging, printing, screens};
-    ASSERT_THAT(printImpegno(onBadDisk, election, {true, true}, {}), Succeeds());
+    const Workplace onBadDisk{failing, desktop, staging, printing, screens, places};
+    ASSERT_THAT(GetParam().print(onBadDisk), Succeeds());
     const int operations = failing.operations();
     ASSERT_GT(operations, 10);
     printing.jobs.clear();
     for (int n = 1; n <= operations; ++n) {
         failing.failOnce(n);
-        EXPECT_FALSE(printImpegno(onBadDisk, election, {true, true}, {}).ok()) << n;
+        EXPECT_FALSE(GetParam().print(onBadDisk).ok()) << n;
         EXPECT_TRUE(printing.jobs.empty()) << n;
         printing.jobs.clear();
         expectEmptyTables();
@@ -108,6 +93,17 @@ TEST_F(ImpegnoFaults, DiskThatFailsAtAnyPointLeavesRecordsAndTablesAsTheyWere) {
                   contentOf(files, folder + "Pentium.vbn") + contentOf(files, folder + "Meirin.vbn"),
               before);
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Documents, OvertimeFaults,
+    testing::Values(Document{"Impegno", &frmTutteStampe::cmdImpegno, "impstrp.rpt",
+                             [](const Workplace& desk) { return printImpegno(desk, election, allFive, {}); }},
+                    Document{
+                        "Determina", &frmTutteStampe::cmdDetermina, "strvideop.rpt",
+                        [](const Workplace& desk) { return printDetermina(desk, election, allFive, allPeriods, {}); }},
+                    Document{"LRendiconto", &frmTutteStampe::cmdLRendiconto, "liqstrqec.rpt",
+                             [](const Workplace& desk) { return printLRendiconto(desk, election, allFive, {}); }}),
+    [](const auto& one) { return std::string(one.param.name); });
 
 }  // namespace
 }  // namespace vorbano::test
