@@ -1,6 +1,10 @@
 #include "reports/frmTutteStampe.h"
 
+#include "reports/contributi.h"
+#include "reports/determina.h"
 #include "reports/impegno.h"
+#include "reports/lrendiconto.h"
+#include "reports/rendiconto.h"
 #include "screens/date_entry.h"
 #include "screens/election_choice.h"
 #include "screens/well_done.h"
@@ -19,7 +23,11 @@ frmTutteStampe::frmTutteStampe(const Workplace& workplace) : desk_(workplace) {
         box->clicked.calls([this, box] { onlyPeriod(*box); });
     }
     cmdImpegno.clicked.calls(this, &frmTutteStampe::cmdImpegno_Click);
-    for (CheckBox* box : stationBoxes_) box->visible = false;
+    cmdDetermina.clicked.calls(this, &frmTutteStampe::cmdDetermina_Click);
+    cmdLRendiconto.clicked.calls(this, &frmTutteStampe::cmdLRendiconto_Click);
+    cmdRendiconto.clicked.calls(this, &frmTutteStampe::cmdRendiconto_Click);
+    cmdContributi.clicked.calls(this, &frmTutteStampe::cmdContributi_Click);
+    hangStations();
     asAtLoad();
 }
 
@@ -30,11 +38,10 @@ void frmTutteStampe::asAtLoad() {
     }
     Check9.visible = false;
     Check10.visible = false;
-    for (CheckBox* box : stationBoxes_) {
-        box->checked = false;
-        box->enabled = false;
-    }
-    cmdImpegno.enabled = false;
+    stationsAsAtLoad();
+    for (Button* command : overtimeCommands_) command->enabled = false;
+    cmdRendiconto.enabled = false;
+    cmdContributi.enabled = false;
     for (HiddenLabel* caption :
          {&lblElezione, &lbldata, &lblAggio, &Label7, &Label8, &Label9, &Label10, &Label11, &Label12, &Label13}) {
         caption->text = std::string();
@@ -85,6 +92,29 @@ void frmTutteStampe::cmdRiavvia_Click() {
 
 void frmTutteStampe::cmdImpegno_Click() {
     wellDone(printImpegno(desk_, election(), latePeriods(), heading()), desk_.desktop);
+}
+
+void frmTutteStampe::cmdDetermina_Click() {
+    if (!electionGiven()) return;
+    wellDone(printDetermina(desk_, election(), latePeriods(), chosenPeriod(), heading()), desk_.desktop);
+}
+
+void frmTutteStampe::cmdLRendiconto_Click() {
+    wellDone(printLRendiconto(desk_, election(), latePeriods(), heading()), desk_.desktop);
+}
+
+void frmTutteStampe::cmdRendiconto_Click() { wellDone(printRendiconto(desk_, election(), heading()), desk_.desktop); }
+
+void frmTutteStampe::cmdContributi_Click() {
+    wellDone(printContributi(desk_, election(), latePeriods(), heading()), desk_.desktop);
+}
+
+int frmTutteStampe::chosenPeriod() const {
+    const std::array boxes = {&Check6, &Check7, &Check8, &Check9, &Check10};
+    for (std::size_t at = 0; at < boxes.size(); ++at) {
+        if (boxes[at]->checked()) return static_cast<int>(at) + 1;
+    }
+    return allPeriods;
 }
 
 void frmTutteStampe::mnuEsci_Click() { form.close(); }

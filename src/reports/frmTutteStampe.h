@@ -1,12 +1,14 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string_view>
 #include <vector>
 
 #include "platform/form.h"
 #include "reports/heading.h"
 #include "reports/overtime_rows.h"
+#include "reports/station_documents.h"
 #include "screens/workplace.h"
 
 namespace vorbano {
@@ -31,12 +33,29 @@ struct frmTutteStampe {
     CheckBox Check10{form, "Check10", "5° periodo"};  ///< visible: the election has a fifth period
 
     Button cmdImpegno{form, "cmdImpegno", "IMPEGNO DI SPESA"};
+    Button cmdDetermina{form, "cmdDetermina", "LIQUIDAZIONE PER DETERMINAZIONE"};
+    Button cmdLRendiconto{form, "cmdLRendiconto", "LIQUIDAZIONE PER RENDICONTO"};
+    Button cmdRendiconto{form, "cmdRendiconto", "RENDICONTO"};
+    Button cmdContributi{form, "cmdContributi", "CONTRIBUTI E RITENUTE (allegato A)"};
 
-    /// Stations and round of the documents of the stations; they show with the commands of those documents.
-    CheckBox Check1{form, "Check1", "Seggi normali"};
-    CheckBox Check2{form, "Check2", "Seggi speciali"};
-    CheckBox Check3{form, "Check3", "1° turno"};
-    CheckBox Check4{form, "Check4", "2° turno"};
+    /// Stations and round of the documents of the stations: two pairs, in each of which one clears the other.
+    CheckBox Check1{form, "Check1", "Normali"};
+    CheckBox Check2{form, "Check2", "Speciali"};
+    CheckBox Check3{form, "Check3", "1° Turno"};
+    CheckBox Check4{form, "Check4", "Ballottaggio"};
+    TextBox txtSeggiSu{form, "txtSeggiSu"};    ///< number of normal stations in the round chosen
+    TextBox txtSpeciali{form, "txtSpeciali"};  ///< number of special ones
+
+    Button cmdRSeggi{form, "cmdRSeggi", "RIEPILOGO SEGGI"};
+    Button cmdSSeggio{form, "cmdSSeggio", "ANTEPRIMA SINGOLO SEGGIO"};
+    Button cmdTSeggi{form, "cmdTSeggi", "STAMPA TUTTI I SEGGI"};
+    /// The panels of one station: which one, of those on file.
+    Frame Frame1{form, "Frame1", "Seggio normale"};
+    ComboBox Combo3{Frame1, "Combo3"};
+    Button cmdStampa{Frame1, "cmdStampa", "Anteprima"};
+    Frame Frame2{form, "Frame2", "Seggio speciale"};
+    ComboBox Combo2{Frame2, "Combo2"};
+    Button cmdStampaSpeciali{Frame2, "cmdStampaSpeciali", "Anteprima"};
 
     HiddenLabel lblElezione{form, "lblElezione"};  ///< heading of the documents: election
     HiddenLabel lbldata{form, "lbldata"};          ///< date
@@ -56,6 +75,15 @@ struct frmTutteStampe {
     void cmdAnteprima_Click();
     void cmdRiavvia_Click();
     void cmdImpegno_Click();
+    void cmdDetermina_Click();
+    void cmdLRendiconto_Click();
+    void cmdRendiconto_Click();
+    void cmdContributi_Click();
+    void cmdRSeggi_Click();
+    void cmdSSeggio_Click();
+    void cmdTSeggi_Click();
+    void cmdStampa_Click();
+    void cmdStampaSpeciali_Click();
     void mnuEsci_Click();
 
   private:
@@ -80,18 +108,36 @@ struct frmTutteStampe {
     void TipoElezioni();
     void Elezioni();
     void onlyPeriod(const CheckBox& ticked);
+    void hangStations();
+    void stationsAsAtLoad();
+    void stationBoxTicked(const CheckBox& box);
+    /// The numbers of stations in the round chosen; the panels go, as what they offer belonged to another choice.
+    void showStationCounts();
+    /// What the two pairs of boxes say; tells the clerk when one of them says nothing.
+    std::optional<StationChoice> chosenStations();
+    void ElencaSeggi(StationChoice choice);
+    void ElencaSpeciali(StationChoice choice);
+    void listStations(ComboBox& list, StationChoice choice);
+    void printChosenStation(StationKind kind, ComboBox& list, const TextBox& count);
     [[nodiscard]] std::vector<SearchedFile> searchedFiles();
     [[nodiscard]] Result<Seen> lookInto(const SearchedFile& file);
     void show(const SearchedFile& file, const Seen& seen);
     void showLatePeriods();
     void tellMissing(const Error& error);
+    /// Whether kind and date are there; tells the clerk when not.
+    bool electionGiven();
+    /// The period whose box is ticked, 1 to 5; `allPeriods` when none is.
+    [[nodiscard]] int chosenPeriod() const;
     [[nodiscard]] Election election() const;
     [[nodiscard]] LatePeriods latePeriods() const { return {Check9.visible(), Check10.visible()}; }
     [[nodiscard]] Heading heading() const { return {lblElezione.text(), lbldata.text(), lblAggio.text()}; }
 
     Workplace desk_;
+    /// Documents made from the overtime; they light together.
+    std::array<Button*, 3> overtimeCommands_{&cmdImpegno, &cmdDetermina, &cmdLRendiconto};
     std::array<CheckBox*, 6> periodBoxes_{&Check5, &Check6, &Check7, &Check8, &Check9, &Check10};
     std::array<CheckBox*, 4> stationBoxes_{&Check1, &Check2, &Check3, &Check4};
+    std::array<Button*, 3> stationCommands_{&cmdRSeggi, &cmdSSeggio, &cmdTSeggi};
 };
 
 }  // namespace vorbano

@@ -33,16 +33,16 @@ std::vector<frmTutteStampe::SearchedFile> frmTutteStampe::searchedFiles() {
          .lights = {&Check4}},
         {.name = {},
          .width = sizeof(EmployeeRecord),
-         .lights = {&cmdImpegno, &Check5, &Check6, &Check7, &Check8},
+         .lights = {&cmdImpegno, &cmdDetermina, &cmdLRendiconto, &Check5, &Check6, &Check7, &Check8},
          .ticks = {&Check5}},
         {.name = "Congs.vbn", .width = 145},
         {.name = "Seggi.vbn",
          .width = 216,
          .stations = &Label8,
-         .lights = {&Check1, &Check3},
+         .lights = {&cmdRSeggi, &cmdSSeggio, &cmdTSeggi, &Check1, &Check3},
          .ticks = {&Check1, &Check3}},
-        {.name = "Rendi.vbn", .width = 152},
-        {.name = "Versum.vbn", .width = 95},
+        {.name = "Rendi.vbn", .width = 152, .lights = {&cmdRendiconto}},
+        {.name = "Versum.vbn", .width = 95, .lights = {&cmdContributi}},
         {.name = "Speciale.vbn",
          .width = 216,
          .stations = &Label9,
@@ -69,12 +69,15 @@ Result<frmTutteStampe::Seen> frmTutteStampe::lookInto(const SearchedFile& file) 
     return Seen{true, stations};
 }
 
+bool frmTutteStampe::electionGiven() {
+    if (!election().type.empty() && !election().date.empty()) return true;
+    desk_.desktop.tell({"dati insufficienti per la ricerca", "Errore", Icon::warning});
+    form.focus(Combo1);
+    return false;
+}
+
 void frmTutteStampe::cmdAnteprima_Click() {
-    if (election().type.empty() || election().date.empty()) {
-        desk_.desktop.tell({"dati insufficienti per la ricerca", "Errore", Icon::warning});
-        form.focus(Combo1);
-        return;
-    }
+    if (!electionGiven()) return;
     const std::vector<SearchedFile> files = searchedFiles();
     std::vector<Seen> seen;
     for (const SearchedFile& file : files) {
@@ -87,6 +90,7 @@ void frmTutteStampe::cmdAnteprima_Click() {
     }
     for (std::size_t at = 0; at < files.size(); ++at) show(files[at], seen[at]);
     showLatePeriods();
+    showStationCounts();
     Combo1.enabled = false;
     Combo4.enabled = false;
     txtDataEle.enabled = false;
