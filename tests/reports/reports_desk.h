@@ -15,6 +15,7 @@
 #include "platform/staging_tables.h"
 #include "screens/workplace.h"
 #include "storage/memory_file_system.h"
+#include "support/places.h"
 
 namespace vorbano::test {
 
@@ -81,9 +82,10 @@ class ReportsDesk : public testing::Test {
     MemoryFileSystem files;
     ScriptedDesktop desktop;
     MemoryDatabase staging{stagingTables()};
+    MemoryDatabase places{placeTables()};
     RecordingPrintEngine printing;
     NoOtherScreens screens;
-    Workplace desk{files, desktop, staging, printing, screens};
+    Workplace desk{files, desktop, staging, printing, screens, places};
     /// What stood in the tables when the last layout ran.
     Snapshot seen;
 };
