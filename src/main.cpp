@@ -20,13 +20,14 @@ int main(int argc, char** argv) {
     const auto root = vorbano::installationRoot();
     vorbano::DiskFileSystem files(root);
     vorbano::SqliteDatabase staging((root / "Stampe" / "dbStampa.mdb").string());
+    vorbano::SqliteDatabase places((root / "Stampe" / "Comuni.mdb").string());
     vorbano::QtDesktop desktop;
     const auto above = [&desktop] { return desktop.frontWindow(); };
     vorbano::QtRenderer renderer(staging, vorbano::layoutsOf(files));
     vorbano::QtPrinter printer(above);
     vorbano::QtPrintEngine printing(renderer, printer, above);
 
-    vorbano::Program program(files, desktop, staging, printing);
+    vorbano::Program program(files, desktop, staging, places, printing);
     program.run();
     return 0;
 }

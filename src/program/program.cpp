@@ -2,10 +2,22 @@
 
 #include <memory>
 
+#include "fiscalcode/frmCodFisc.h"
 #include "overtime/frmCompStraord.h"
+#include "overtime/frmElimina.h"
+#include "overtime/frmModDate.h"
+#include "overtime/frmModStraord.h"
 #include "parameters/frmParametri.h"
+#include "payments/frmVersamenti.h"
 #include "reports/frmTutteStampe.h"
 #include "shell/Form1.h"
+#include "statement/frmInsRend.h"
+#include "statement/frmModRend.h"
+#include "stations/frmModSeggi.h"
+#include "stations/frmModSpeciale.h"
+#include "stations/frmSeggi.h"
+#include "stations/frmSeggiSpeciali.h"
+#include "stations/frmTariffeSeggi.h"
 
 namespace vorbano {
 
@@ -21,12 +33,24 @@ std::function<void()> shows(const Workplace& workplace) {
 
 }  // namespace
 
-Program::Program(FileSystem& files, Desktop& desktop, Database& staging, PrintEngine& printing)
-    : workplace_{files, desktop, staging, printing, *this},
+Program::Program(FileSystem& files, Desktop& desktop, Database& staging, Database& places, PrintEngine& printing)
+    : workplace_{files, desktop, staging, printing, *this, places},
       screens_{
+          {"frmCodFisc", shows<frmCodFisc>(workplace_)},
           {"frmCompStraord", shows<frmCompStraord>(workplace_)},
+          {"frmElimina", shows<frmElimina>(workplace_)},
+          {"frmInsRend", shows<frmInsRend>(workplace_)},
+          {"frmModDate", shows<frmModDate>(workplace_)},
+          {"frmModRend", shows<frmModRend>(workplace_)},
+          {"frmModSeggi", shows<frmModSeggi>(workplace_)},
+          {"frmModSpeciale", shows<frmModSpeciale>(workplace_)},
+          {"frmModStraord", shows<frmModStraord>(workplace_)},
           {"frmParametri", shows<frmParametri>(workplace_)},
+          {"frmSeggi", shows<frmSeggi>(workplace_)},
+          {"frmSeggiSpeciali", shows<frmSeggiSpeciali>(workplace_)},
+          {"frmTariffeSeggi", shows<frmTariffeSeggi>(workplace_)},
           {"frmTutteStampe", shows<frmTutteStampe>(workplace_)},
+          {"frmVersamenti", shows<frmVersamenti>(workplace_)},
       } {}
 
 void Program::run() {

@@ -12,7 +12,7 @@ namespace vorbano {
 /// The whole program over a disk, a desk and a print engine: the main window and every screen that it can open.
 class Program : public Screens {
   public:
-    Program(FileSystem& files, Desktop& desktop, Database& staging, PrintEngine& printing);
+    Program(FileSystem& files, Desktop& desktop, Database& staging, Database& places, PrintEngine& printing);
 
     /// Shows the main window until it closes.
     void run();

@@ -161,8 +161,9 @@ void StationCorrection::cmdPrecedente_Click() { step(-1); }
 void StationCorrection::cmdSuccessivo_Click() { step(1); }
 
 void StationCorrection::step(int by) {
-    const auto at = static_cast<std::size_t>(Combo3.selection() + by);
-    if (at < Combo3.items().size()) callUp(wholeScan(Combo3.items()[at]));
+    const int at = Combo3.selection() + by;
+    if (at < 0 || at >= static_cast<int>(Combo3.items().size())) return;
+    callUp(wholeScan(Combo3.items()[static_cast<std::size_t>(at)]));
 }
 
 void StationCorrection::cmdAnnulla_Click() {

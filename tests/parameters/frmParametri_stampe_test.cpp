@@ -6,7 +6,7 @@ namespace vorbano::test {
 namespace {
 
 /// A print engine whose layout is not there.
-class BrokenPrintEngine : public PrintEngine {
+class BrokenPrintEngine : public RecordingPrintEngine {
   public:
     Result<> run(const PrintJob& job) override { return Error{Failure::notFound, job.layout}; }
 };

@@ -18,6 +18,7 @@
 #include "storage/memory_file_system.h"
 #include "support/bytes.h"
 #include "support/expected_tariffs.h"
+#include "support/places.h"
 
 namespace vorbano::test {
 
@@ -43,7 +44,7 @@ class ParametriTest : public ::testing::Test {
     void open() { openOn(files, staging, printing); }
     void openOn(FileSystem& disk, Database& database, PrintEngine& engine) {
         if (screen) desktop.shut(screen->form);
-        screen = std::make_unique<frmParametri>(Workplace{disk, desktop, database, engine, screens});
+        screen = std::make_unique<frmParametri>(Workplace{disk, desktop, database, engine, screens, places});
         desktop.open(screen->form);
     }
     void openWithRates(std::string_view mark, const CentsOf& centsOf = distinctCents) {
@@ -79,6 +80,7 @@ class ParametriTest : public ::testing::Test {
     MemoryFileSystem files;
     ScriptedDesktop desktop;
     MemoryDatabase staging{stagingTables()};
+    MemoryDatabase places{placeTables()};
     RecordingPrintEngine printing;
     NoScreens screens;
     std::unique_ptr<frmParametri> screen;

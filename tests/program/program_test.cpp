@@ -20,9 +20,10 @@ namespace {
 struct TheProgram : testing::Test {
     MemoryFileSystem files;
     MemoryDatabase staging{stagingTables()};
+    MemoryDatabase places{{}};
     RecordingPrintEngine printing;
     ScriptedDesktop desktop;
-    Program program{files, desktop, staging, printing};
+    Program program{files, desktop, staging, places, printing};
 };
 
 }  // namespace
@@ -43,7 +44,8 @@ TEST_F(TheProgram, OpensEveryScreenOfItsMenuAndComesBackToTheMainWindow) {
             desktop.anyForm([&](Form&) { ++opened; });
             EXPECT_EQ(Operator(main).menu(entry), Refusal::none) << entry.name();
         }
-        EXPECT_EQ(opened, static_cast<int>(program.names().size()));
+        // The fiscal code is opened by the corrections of the stations.
+        EXPECT_EQ(opened, static_cast<int>(program.names().size()) - 1);
     });
     program.run();
     // Only the boxes that the screens bring up on an empty installation.

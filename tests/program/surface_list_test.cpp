@@ -38,7 +38,9 @@ TEST(TheListOfSurfaces, ComesFromTheProgram) {
     EXPECT_TRUE(all.screens.contains("frmCompStraord"));
     EXPECT_TRUE(all.controls.contains("frmCompStraord.cmdSalva"));
     EXPECT_TRUE(all.controls.contains("Form1.mnuInsert"));
-    EXPECT_FALSE(all.controls.contains("Form1.mnuTarseg"));
+    // A menu that only holds entries, and a box that stands closed for good.
+    EXPECT_FALSE(all.controls.contains("Form1.mnuFile"));
+    EXPECT_FALSE(all.controls.contains("frmTariffeSeggi.Check4"));
     EXPECT_TRUE(all.layouts.contains("impstr.rpt"));
     EXPECT_TRUE(all.files.contains("Meirin.vbn"));
     EXPECT_TRUE(all.texts.contains("Dati incompleti per la ricerca"));

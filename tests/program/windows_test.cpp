@@ -50,9 +50,10 @@ TEST(EveryScreen, HasAWindowThatFitsItsControls) {
     MemoryFileSystem files;
     files.makeFolder("Params").ignore();
     MemoryDatabase staging(stagingTables());
+    MemoryDatabase places{{}};
     RecordingPrintEngine printing;
     WindowDesktop desktop;
-    Program program(files, desktop, staging, printing);
+    Program program(files, desktop, staging, places, printing);
     program.run();
     for (const std::string& name : program.names()) program.open(name);
     EXPECT_EQ(desktop.windows, 2 + static_cast<int>(program.names().size()));

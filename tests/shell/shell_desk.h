@@ -19,6 +19,7 @@
 #include "shell/Form1.h"
 #include "storage/memory_file_system.h"
 #include "support/bytes.h"
+#include "support/places.h"
 
 namespace vorbano::test {
 
@@ -94,7 +95,7 @@ class ShellTest : public ::testing::Test {
 
     void make(FileSystem& disk) {
         if (screen) desktop.shut(screen->form);
-        screen = std::make_unique<Form1>(Workplace{disk, desktop, tables, printing, screens});
+        screen = std::make_unique<Form1>(Workplace{disk, desktop, tables, printing, screens, places});
     }
     void startOn(FileSystem& disk) {
         make(disk);
@@ -166,6 +167,7 @@ class ShellTest : public ::testing::Test {
     DiaryDisk files{diary};
     DiaryTables tables{diary};
     DiaryDesk desktop{diary};
+    MemoryDatabase places{placeTables()};
     RecordingPrintEngine printing;
     EmptyScreens screens{desktop};
     std::unique_ptr<Form1> screen;
