@@ -41,7 +41,8 @@ constexpr std::array table = {
     SharingRow{"Europee_Comunali", "", staffWhole},
     SharingRow{"", "", every(oneHalf)},
 };
-static_assert(table.back().kind.empty() && table.back().date.empty(), "every election finds a row");
+// Every election finds a row.
+static_assert(table.back().kind.empty() && table.back().date.empty());
 
 }  // namespace
 
