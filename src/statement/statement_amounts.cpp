@@ -1,5 +1,7 @@
 #include "statement/statement_amounts.h"
 
+#include "statement/sharing.h"
+
 namespace vorbano {
 
 namespace {
@@ -20,15 +22,7 @@ Currency totalOf(const StatementAmounts& amounts, bool hasSecondBody) {
     return hasSecondBody ? sum + amounts.carico2 : sum;
 }
 
-Currency fiveSixths(Currency amount) {
-    constexpr std::int64_t unitsInCent = 100;
-    constexpr std::int64_t six = 6 * unitsInCent;
-    const std::int64_t units = amount.units();
-    // Whole sixths first, so that no amount on file can run over.
-    const std::int64_t rest = units % six * 5;
-    const std::int64_t half = rest < 0 ? -six / 2 : six / 2;
-    return Currency::fromUnits((units / six * 5 + (rest + half) / six) * unitsInCent);
-}
+Currency fiveSixths(Currency amount) { return partOf(amount, fiveOfSix); }
 
 Currency partOfStato(const StatementAmounts& amounts) {
     Currency sum = amounts.postali + amounts.cabine;
