@@ -24,6 +24,8 @@ namespace {
 const Election election{"Europee", "09-06-24"};
 constexpr std::string_view employeeFile = "Elezioni/Europee/09-06-24/09-06-24.vbn";
 constexpr std::string_view companionFile = "Elezioni/Europee/09-06-24/Reverse.vbn";
+/// In an empty folder.
+constexpr std::string_view newFile = "09-06-24.vbn";
 constexpr std::size_t fileLength = std::size_t{maxRecords} * sizeof(EmployeeRecord);
 
 EmployeeRecord employee(int number) {
@@ -131,7 +133,7 @@ void AppendOfOneRecord_RecordFile(benchmark::State& state) {
     DiskFileSystem files(folder.path());
     const EmployeeRecord record = employee(1);
     measure(state, true, [&] {
-        auto file = RecordFile<EmployeeRecord>::open(files, employeeFile);
+        auto file = RecordFile<EmployeeRecord>::open(files, newFile);
         // A full file begins anew.
         const bool full = file && file->size() == maxRecords;
         return file && (full ? file->write(1, record) : file->append(record)).ok();
@@ -140,7 +142,7 @@ void AppendOfOneRecord_RecordFile(benchmark::State& state) {
 
 void AppendOfOneRecord_SameBytesWrittenOnce(benchmark::State& state) {
     const test::TemporaryFolder folder;
-    const std::string path = (folder.path() / employeeFile).string();
+    const std::string path = (folder.path() / newFile).string();
     const EmployeeRecord record = employee(1);
     measure(state, true, [&] {
         return RawFile(path, O_WRONLY | O_CREAT | O_APPEND).writeAndWait(std::as_bytes(std::span(&record, 1)));
