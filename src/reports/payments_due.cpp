@@ -60,7 +60,7 @@ Result<> Kontrol(FileSystem& files, const Election& election, const PaymentAmoun
     {
         const auto file = RecordFile<PaymentRecord>::open(files, *path);
         if (!file) return file.error();
-        const auto read = file->scan([&](int, PaymentRecord record) { differs = follow(record, due) || differs; });
+        auto read = file->scan([&](int, PaymentRecord record) { differs = follow(record, due) || differs; });
         if (!read) return read;
     }
     if (!differs) return {};
