@@ -24,14 +24,6 @@ void putDates(Block& block, const PeriodSpan& span) {
     block.to = reformatDate(span.to);
 }
 
-Result<> changeMeirin(FileSystem& files, const Election& election, const OvertimePaths& paths,
-                      const DateChange& change) {
-    auto meirin = readMeirin(files, election);
-    if (!meirin) return meirin.error();
-    setMeirinFigures(*meirin, change.figures);
-    return storeOnlyRecord(files, paths.meirin, *meirin);
-}
-
 Result<> changeLate(FileSystem& files, const OvertimePaths& paths, std::size_t late, const DateChange& change) {
     const PeriodSpan& span = *change.spans[earlyPeriods + late];
     auto records = readAll<LatePeriodRecord>(files, paths.late[late]);
@@ -55,7 +47,8 @@ Result<> changeDates(FileSystem& files, const Election& election, const DateChan
     const auto paths = overtimePaths(election);
     if (!paths) return paths.error();
     // The employees last: the hours per month from which the figures are worked out change only with them.
-    if (auto changed = changeMeirin(files, election, *paths, change); !changed) return changed;
+    auto figures = [&change](MeirinRecord& meirin) { setMeirinFigures(meirin, change.figures); };
+    if (auto changed = changeMeirin(files, election, figures); !changed) return changed;
     for (std::size_t at = 0; at < latePeriods; ++at) {
         if (!change.spans[earlyPeriods + at]) continue;
         if (auto changed = changeLate(files, *paths, at, change); !changed) return changed;

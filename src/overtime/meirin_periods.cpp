@@ -19,17 +19,6 @@ auto placesOf(Record& record, std::size_t at) {
     return Places{&record.average5, &record.pool5, &record.state5};
 }
 
-/// Reads record 1, lets `change` at it and writes it back.
-template <class Change>
-Result<> changeMeirin(FileSystem& files, const Election& election, Change&& change) {
-    auto record = readMeirin(files, election);
-    if (!record) return record.error();
-    change(*record);
-    const auto path = election.file(meirinFile);
-    if (!path) return path.error();
-    return storeOnlyRecord(files, *path, *record);
-}
-
 }  // namespace
 
 MeirinPeriod meirinPeriod(const MeirinRecord& record, int period) {
@@ -52,6 +41,15 @@ Result<MeirinRecord> readMeirin(FileSystem& files, const Election& election) {
     const auto stored = onlyRecord<MeirinRecord>(files, *path);
     if (!stored) return stored.error();
     return stored->value_or(MeirinRecord{});
+}
+
+Result<> changeMeirin(FileSystem& files, const Election& election, const std::function<void(MeirinRecord&)>& change) {
+    auto record = readMeirin(files, election);
+    if (!record) return record.error();
+    change(*record);
+    const auto path = election.file(meirinFile);
+    if (!path) return path.error();
+    return storeOnlyRecord(files, *path, *record);
 }
 
 Result<> storePeriodStates(FileSystem& files, const Election& election, const PeriodChoice& chosen, PeriodState state) {

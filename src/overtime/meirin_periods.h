@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 #include "overtime/pools.h"
@@ -29,6 +30,9 @@ using PeriodChoice = std::array<bool, maxPeriods>;
 
 /// Record 1 of the election's Meirin.vbn; zeros when it is empty.
 [[nodiscard]] Result<MeirinRecord> readMeirin(FileSystem& files, const Election& election);
+/// Reads it, lets `change` at it and writes it back.
+[[nodiscard]] Result<> changeMeirin(FileSystem& files, const Election& election,
+                                    const std::function<void(MeirinRecord&)>& change);
 /// `cmdAttiva`, `cmdAttiva2`: sets the state of the chosen periods (from 0); all else stays.
 [[nodiscard]] Result<> storePeriodStates(FileSystem& files, const Election& election, const PeriodChoice& chosen,
                                          PeriodState state);

@@ -1,22 +1,11 @@
 #include "payments/payment_file.h"
 
 #include "overtime/meirin_periods.h"
-#include "storage/only_record.h"
+#include "storage/record_file.h"
 
 namespace vorbano {
 
 namespace {
-
-/// Reads the record of Meirin.vbn, lets `change` at it and writes it back.
-template <class Change>
-Result<> changeMeirin(FileSystem& files, const Election& election, Change&& change) {
-    auto record = readMeirin(files, election);
-    if (!record) return record.error();
-    change(*record);
-    const auto path = election.file(meirinFile);
-    if (!path) return path.error();
-    return storeOnlyRecord(files, *path, *record);
-}
 
 bool sameDocument(const PaymentRecord& one, const PaymentRecord& other) {
     return one.Mother.trimmed() == other.Mother.trimmed() && one.Son.trimmed() == other.Son.trimmed() &&
