@@ -63,7 +63,7 @@ void frmCodFisc::Text1_Change() {
     }
 }
 
-void frmCodFisc::showPlace(const Place& place) {
+void frmCodFisc::showPlace(const Birthplace& place) {
     Text1.tone = Tone::plain;
     Text2.text = place.province;
     Text3.text = place.code;

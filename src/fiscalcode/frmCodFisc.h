@@ -39,7 +39,7 @@ struct frmCodFisc {
 
   private:
     [[nodiscard]] bool takesAway(const std::string& text) const;
-    void showPlace(const Place& place);
+    void showPlace(const Birthplace& place);
     void showNoPlace();
     void emptyPlace();
 

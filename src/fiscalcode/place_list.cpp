@@ -45,24 +45,24 @@ std::string asListed(std::string_view name) {
 
 }  // namespace
 
-Result<std::optional<Place>> PlaceList::atOrAfter(BornIn where, std::string_view text) {
+Result<std::optional<Birthplace>> PlaceList::atOrAfter(BornIn where, std::string_view text) {
     const PlaceTable& in = tables.at(static_cast<std::size_t>(where));
     const auto rows = places_.seek(in.table, in.name, upperCase(text), namesakes);
     if (!rows) return rows.error();
-    if (rows->empty()) return std::optional<Place>();
+    if (rows->empty()) return std::optional<Birthplace>();
     const std::string name = textIn(rows->front(), in.name);
     const auto chosen = std::find_if(rows->begin(), rows->end(), [&](const Row& row) {
         return textIn(row, in.name) == name && textIn(row, inForce) == "1";
     });
     const Row& row = chosen == rows->end() ? rows->front() : *chosen;
     return std::optional(
-        Place{std::string(trim(name)), std::string(trim(textIn(row, in.province))), textIn(row, in.code)});
+        Birthplace{std::string(trim(name)), std::string(trim(textIn(row, in.province))), textIn(row, in.code)});
 }
 
-Result<std::optional<Place>> PlaceList::named(BornIn where, std::string_view name) {
+Result<std::optional<Birthplace>> PlaceList::named(BornIn where, std::string_view name) {
     const std::string listed = asListed(name);
     auto place = atOrAfter(where, listed);
-    if (place && *place && (*place)->name != listed) return std::optional<Place>();
+    if (place && *place && (*place)->name != listed) return std::optional<Birthplace>();
     return place;
 }
 

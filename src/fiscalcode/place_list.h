@@ -15,7 +15,7 @@ namespace vorbano {
 /// Which of the two tables: `Comuni`, or `Stati` for who was born abroad.
 enum class BornIn : std::uint8_t { Comuni, Stati };
 
-struct Place {
+struct Birthplace {
     std::string name;      ///< in capitals, an accent as a following apostrophe
     std::string province;  ///< two letters; "EE" for a state
     std::string code;      ///< the four characters in the fiscal code
@@ -28,10 +28,10 @@ class PlaceList {
     explicit PlaceList(Database& places) : places_(places) {}
 
     /// The first place, in the order of names, whose name is `text` or comes after it; `text` in either case.
-    [[nodiscard]] Result<std::optional<Place>> atOrAfter(BornIn where, std::string_view text);
+    [[nodiscard]] Result<std::optional<Birthplace>> atOrAfter(BornIn where, std::string_view text);
     /// The place of exactly that name, blanks at its ends left out. The clerk may write it in either case and with
     /// accents: "Cantù" is found as "CANTU'".
-    [[nodiscard]] Result<std::optional<Place>> named(BornIn where, std::string_view name);
+    [[nodiscard]] Result<std::optional<Birthplace>> named(BornIn where, std::string_view name);
 
   private:
     Database& places_;

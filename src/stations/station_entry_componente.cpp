@@ -42,7 +42,7 @@ void StationEntry::abroad_Click() { txtDove1_LostFocus(); }
 /// An empty field is no place to look for: the code can be typed by hand.
 void StationEntry::txtDove1_LostFocus() {
     const std::string_view name = trim(txtDove1.text());
-    std::optional<Place> found;
+    std::optional<Birthplace> found;
     if (!name.empty()) {
         const auto place = places_.named(abroad.checked() ? BornIn::Stati : BornIn::Comuni, name);
         // A list that cannot be read is not reported: it has no place.

@@ -12,7 +12,7 @@ class Places : public ::testing::Test {
   protected:
     Places() { fillPlaces(database); }
 
-    static std::string shown(const Result<std::optional<Place>>& place) {
+    static std::string shown(const Result<std::optional<Birthplace>>& place) {
         if (!place) return "(failure)";
         return *place ? (*place)->name + " " + (*place)->province + " " + (*place)->code : "(none)";
     }
