@@ -9,7 +9,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-/// Birthplace `ordine` of `composto` in a station, of an election with `seggi` of them.
+/// Place `ordine` of `composto` in a station, of an election with `seggi` of them.
 MemberRecord member(int station, int ordine, int composto, int seggi = 3) {
     MemberRecord record{};
     record.station.Seggi = static_cast<std::int16_t>(seggi);
