@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "records/adjustment_records.h"
 #include "records/overtime_records.h"
 #include "records/payment_records.h"
 #include "records/statement_records.h"
@@ -50,6 +51,8 @@ std::span<const RecordInfo> recordFiles() {
         RecordInfo{versumcFile, sizeof(PaymentRecord), paymentFields},
         RecordInfo{reversumFile, sizeof(PaymentRecord), paymentFields},
         RecordInfo{meirincFile, sizeof(MeirincRecord), meirincFields},
+        RecordInfo{congsFile, sizeof(AdjustmentRecord), adjustmentFields},
+        RecordInfo{congs1File, sizeof(AdjustmentRecord), adjustmentFields},
     };
     return files;
 }

@@ -158,6 +158,8 @@ const std::set<std::string>& provenElsewhere() {
 const std::set<std::string_view>& metByNoScreen() {
     static const std::set<std::string_view> files = {
         "PmDipc.dat",  // the dated rates
+        "Congs.vbn",   // the adjustment
+        "Congs1.vbn",
         // The payments of the adjustment, which is not entered yet.
         versumcFile,
         meirincFile,

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "record_page.h"
+#include "records/adjustment_records.h"
 #include "records/overtime_records.h"
 #include "records/payment_records.h"
 #include "records/statement_records.h"
@@ -68,6 +69,7 @@ const std::vector<PageCase>& pages() {
         {"tprov.md", {std::string(tprovFile)}, sizeof(TprovRecord), tprovFields},
         {"versum.md", {"Versum.vbn", "Versumc.vbn", "Reversum.vbn"}, sizeof(PaymentRecord), paymentFields},
         {"meirinc.md", {std::string(meirincFile)}, sizeof(MeirincRecord), meirincFields},
+        {"congs.md", {"Congs.vbn", "Congs1.vbn"}, sizeof(AdjustmentRecord), adjustmentFields},
     };
     return all;
 }
