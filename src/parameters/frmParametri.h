@@ -16,6 +16,11 @@ namespace vorbano {
 
 /// The one screen where rates and percentages are entered: a tab each for the staff, the municipal secretaries and the
 /// contributions. A tab is locked until the clerk opens a row, or all; saving the staff's rates locks them again.
+/// On the staff's tab stand also the two versions of the tariffs, with the rewriting of a stored election, and the
+/// adjustment run.
+///
+/// Its procedures stand in files by theme: _tariffe (the staff's rates), _segretari, _contributi, _stampe, _elezione
+/// (which election, and what is on show for it), _versioni (old and new tariffs), _conguaglio (the adjustment).
 struct frmParametri {
     /// One percentage: the box that opens it, and its field.
     struct Percentage {
@@ -40,6 +45,21 @@ struct frmParametri {
 
     CheckBox Check20{staffPage, "Check20", "Attiva modifiche di tutti i parametri"};
     std::deque<RateRow> rows;  ///< the 32 rows in record order
+    std::deque<HiddenLabel>
+        otherDay;  ///< the 32 `Day` rates of the other version, in record order; Label33 is the first
+    Button cmdTarVecchie{staffPage, "cmdTarVecchie", "Vecchie tariffe"};
+    Button cmdTarNuove{staffPage, "cmdTarNuove", "Nuove tariffe"};
+    CheckBox Check45{staffPage, "Check45", "Aggiorna tariffe"};  ///< an election is to follow the other version
+    CheckBox Check46{staffPage, "Check46", "Conguaglio"};        ///< an election is to be adjusted
+    Frame Frame2{staffPage, "Frame2", "Decorrenza"};             ///< on show for the adjustment
+    ComboBox cboDeco{Frame2, "cboDeco", {"01/04/2008", "01/01/2009"}};
+    Label lblDeco{Frame2, "lblDeco"};               ///< the date of effect in use
+    Frame Frame1{staffPage, "Frame1", "Elezione"};  ///< on show while an election is chosen, or to be
+    ComboBox Combo1{Frame1, "Combo1"};
+    ComboBox Combo2{Frame1, "Combo2"};
+    TextBox txtDataEle{Frame1, "txtDataEle", 10};
+    Button cmdAggTar{Frame1, "cmdAggTar", "Aggiorna tariffe"};
+    Button cmdCrea{Frame1, "cmdCrea", "Elabora conguaglio"};
     Button cmdSalva{staffPage, "cmdSalva", "Salva modifiche"};
     Button cmdStampa{staffPage, "cmdStampa", "Stampa"};
 
@@ -65,6 +85,28 @@ struct frmParametri {
     void cmdSalva_Click();
     void cmdStampa_Click();
 
+    // The two versions of the tariffs.
+    void cmdTarNuove_Click();
+    void cmdTarVecchie_Click();
+    void Check45_Click();
+    void cmdAggTar_Click();
+
+    // The election that is rewritten or adjusted.
+    void Combo1_Click();
+    void Combo2_Click();
+
+    // The adjustment.
+    void Check46_Click();
+    void cboDeco_Click();
+    void lblDeco_Change();
+    void cmdCrea_Click();
+    /// The screen's rates to PmDipc.dat as the block of the date of effect.
+    void Conguagli();
+    /// The block of the date of effect to the screen.
+    void Conguaglia();
+    /// The second run of a joint election.
+    void Conguaglio1();
+
     void Check21_Click();
     void cmdSalva1_Click();
     void cmdStampa1_Click();
@@ -78,12 +120,21 @@ struct frmParametri {
 
   private:
     void makeStaffPage();
+    void makeElectionPanels();
     void makeSecretariesPage();
     void makeContributionsPage();
 
     void loadStaff();
     void loadSecretaries();
     void loadContributions();
+
+    /// Neither an update nor an adjustment keeps the tab from plain editing.
+    [[nodiscard]] bool plainEditing() const { return !Check45.checked() && !Check46.checked(); }
+    /// What is on show and enabled for the update, the adjustment, or neither.
+    void showMode();
+    /// The lists as for a first choice; nothing is chosen.
+    void offerElections();
+    void forgetElection();
 
     void openStaffRow(RateRow& row);
     void openSecretaryRow(RateRow& row);

@@ -11,20 +11,24 @@ namespace vorbano {
 
 namespace {
 
-/// Number of the check box that opens a row, by the row's key; in record order.
-struct RowBox {
+/// Numbers of the check box that opens a row and of the label that holds its other rate, by the row's key; in record
+/// order.
+struct RowNumbers {
     std::string_view key;
-    int number;
+    int box;
+    int label;
 };
-constexpr std::array<RowBox, tariffRowCount> rowBoxes = {{
-    {"D5", 1},   {"D4", 2},   {"D3a", 3}, {"D3b", 4},  {"D2", 5},   {"D1", 6},   {"C4", 7},   {"C3", 8},
-    {"C2", 9},   {"C1", 10},  {"B6", 11}, {"B5", 12},  {"B4a", 13}, {"B3a", 14}, {"B4b", 27}, {"B3b", 28},
-    {"B2", 29},  {"B1", 30},  {"A4", 31}, {"A3", 32},  {"A2", 33},  {"A1", 34},  {"D6a", 35}, {"D6b", 39},
-    {"D5b", 38}, {"D4b", 37}, {"C5", 40}, {"B7a", 41}, {"B7b", 44}, {"B6b", 43}, {"B5b", 42}, {"A5", 36},
+constexpr std::array<RowNumbers, tariffRowCount> rowNumbers = {{
+    {"D5", 1, 33},   {"D4", 2, 53},   {"D3a", 3, 54},  {"D3b", 4, 55},  {"D2", 5, 56},   {"D1", 6, 57},
+    {"C4", 7, 58},   {"C3", 8, 59},   {"C2", 9, 60},   {"C1", 10, 61},  {"B6", 11, 62},  {"B5", 12, 63},
+    {"B4a", 13, 64}, {"B3a", 14, 65}, {"B4b", 27, 66}, {"B3b", 28, 67}, {"B2", 29, 68},  {"B1", 30, 69},
+    {"A4", 31, 70},  {"A3", 32, 71},  {"A2", 33, 72},  {"A1", 34, 73},  {"D6a", 35, 3},  {"D6b", 39, 42},
+    {"D5b", 38, 36}, {"D4b", 37, 32}, {"C5", 40, 75},  {"B7a", 41, 77}, {"B7b", 44, 46}, {"B6b", 43, 81},
+    {"B5b", 42, 79}, {"A5", 36, 6},
 }};
 static_assert([] {
-    for (std::size_t at = 0; at < rowBoxes.size(); ++at) {
-        if (rowBoxes[at].key != tariffRows[at].key) return false;
+    for (std::size_t at = 0; at < rowNumbers.size(); ++at) {
+        if (rowNumbers[at].key != tariffRows[at].key) return false;
     }
     return true;
 }());
@@ -34,8 +38,9 @@ static_assert([] {
 void frmParametri::makeStaffPage() {
     for (std::size_t at = 0; at < tariffRows.size(); ++at) {
         const TariffRow& layout = tariffRows[at];
-        RateRow& row = rows.emplace_back(staffPage, "Check" + std::to_string(rowBoxes[at].number), layout.grade,
+        RateRow& row = rows.emplace_back(staffPage, "Check" + std::to_string(rowNumbers[at].box), layout.grade,
                                          "txt" + std::string(layout.key));
+        otherDay.emplace_back(form, "Label" + std::to_string(rowNumbers[at].label));
         for (TextBox* field : row.fields()) makeCommaField(*field);
         // The box of a grade with a "G" deliberately does nothing: its rates come only with a version or a date.
         if (!layout.readOnly()) row.box.clicked.calls([this, &row] { openStaffRow(row); });
@@ -44,6 +49,7 @@ void frmParametri::makeStaffPage() {
     Check20.clicked.calls(this, &frmParametri::Check20_Click);
     cmdSalva.clicked.calls(this, &frmParametri::cmdSalva_Click);
     cmdStampa.clicked.calls(this, &frmParametri::cmdStampa_Click);
+    makeElectionPanels();
 }
 
 void frmParametri::loadStaff() {
@@ -69,7 +75,7 @@ void frmParametri::loadStaff() {
 
 void frmParametri::openStaffRow(RateRow& row) {
     const bool open = row.box.checked();
-    cmdStampa.enabled = !open;
+    cmdStampa.enabled = !open && plainEditing();
     row.enableFields(open);
     if (!open) {
         cmdSalva.enabled = false;
@@ -81,12 +87,15 @@ void frmParametri::openStaffRow(RateRow& row) {
 
 void frmParametri::lockStaff() {
     for (RateRow& row : rows) row.box.checked = false;
-    cmdStampa.enabled = true;
+    cmdStampa.enabled = plainEditing();
 }
 
 void frmParametri::Check20_Click() {
     if (!Check20.checked()) {
         lockStaff();
+        for (Button* command : {&cmdTarNuove, &cmdTarVecchie}) command->enabled = plainEditing();
+        Combo1.enabled = true;
+        txtDataEle.enabled = true;
         return;
     }
     cmdStampa.enabled = false;
@@ -106,6 +115,10 @@ std::optional<TariffTable> frmParametri::tableOnScreen(std::string_view mark) {
 }
 
 void frmParametri::cmdSalva_Click() {
+    if (Check46.checked()) {
+        Conguagli();
+        return;
+    }
     const std::string mark(trim(Label31.text()));
     const auto table = tableOnScreen(mark);
     if (!table) return;
