@@ -40,8 +40,7 @@ std::vector<LatePeriodRecord> completed(std::vector<LatePeriodRecord> stored,
 
 Result<> replaceLate(FileSystem& files, const OvertimePaths& paths, std::size_t late,
                      const std::vector<LatePeriodRecord>& records) {
-    if (auto filled = fillCompanion(files, paths.lateNew[late], records); !filled) return filled;
-    return files.replace(paths.lateNew[late], paths.late[late]);
+    return replaceAll(files, paths.late[late], paths.lateNew[late], records);
 }
 
 bool fits(std::int64_t figure) {
