@@ -37,11 +37,12 @@ constexpr std::array paymentList = {Step{"Tabella3", Rows::all},  Step{"Tabella4
                                     Step{"Tabella5", Rows::all},  Step{"Tabella6", Rows::all},
                                     Step{"Tabella10", Rows::all}, Step{"Tabella11", Rows::all}};
 constexpr std::array paymentRows = {Step{"Tabella11", Rows::all}};
+constexpr std::array adjustmentPayments = {Step{"Tabella5", Rows::first}, Step{"Tabella11", Rows::all}};
 
 /// In the order of `Clearing`.
-constexpr std::array<std::span<const Step>, 9> routines = {byEmployees,   byEmployees,    byRows,
-                                                           stationTotals, stationMembers, statement,
-                                                           contributions, paymentList,    paymentRows};
+constexpr std::array<std::span<const Step>, 11> routines = {
+    byEmployees, byEmployees,        byRows, stationTotals, stationMembers, statement, contributions, paymentList,
+    paymentRows, adjustmentPayments, {}};
 
 Result<> take(Database& staging, const Step& step, int dipendenti) {
     switch (step.rows) {

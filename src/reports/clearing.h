@@ -19,6 +19,8 @@ enum class Clearing : std::uint8_t {
     Cancella7,
     Deletebase,  ///< of the payments: all rows of the tables of their list
     VedoElenco,  ///< of the payments: all rows of `Tabella11`
+    Anteprimac,  ///< of the payments of an adjustment: the first row of `Tabella5`, all rows of `Tabella11`
+    none,        ///< the rows stay for the next document
 };
 
 /// Clears what `routine` clears. `dipendenti` is the number of employees that record 1 of the election gives:

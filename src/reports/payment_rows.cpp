@@ -26,8 +26,8 @@ Row rowOf(const PaymentRecord& record, const PaymentCaptions& captions, std::str
 }  // namespace
 
 Result<int> appendPayments(FileSystem& files, Database& staging, const Election& election,
-                           const PaymentCaptions& captions, std::string_view inailWords) {
-    const auto path = election.file(versumFile);
+                           const PaymentCaptions& captions, std::string_view inailWords, std::string_view documents) {
+    const auto path = election.file(documents);
     if (!path) return path.error();
     const auto file = RecordFile<PaymentRecord>::open(files, *path);
     if (!file) return file.error();

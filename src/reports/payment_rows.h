@@ -22,9 +22,10 @@ struct PaymentCaptions {
 inline constexpr std::string_view inailWithin = "Il versamento sarà effettuato entro il";
 inline constexpr std::string_view inailDate = "data entro la quale sarà effetuato il versamento ";
 
-/// A row for each record of Versum.vbn, in its order; the number of them.
+/// A row for each record of Versum.vbn, or of `documents`, in its order; the number of them.
 [[nodiscard]] Result<int> appendPayments(FileSystem& files, Database& staging, const Election& election,
-                                         const PaymentCaptions& captions, std::string_view inailWords);
+                                         const PaymentCaptions& captions, std::string_view inailWords,
+                                         std::string_view documents = versumFile);
 
 /// What a closing row says of a voice.
 struct ClosingLine {
