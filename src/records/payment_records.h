@@ -4,6 +4,7 @@
 // in its folder: a file of documents, and the amounts of the adjustment that stand beside those of Meirin.vbn.
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 #include "storage/fields.h"
@@ -37,6 +38,12 @@ inline constexpr std::string_view versumcFile = "Versumc.vbn";
 /// Companion of both in every change of several records.
 inline constexpr std::string_view reversumFile = "Reversum.vbn";
 inline constexpr std::string_view meirincFile = "Meirinc.vbn";
+
+/// The payments of an election on what was liquidated, and those on what the adjustment adds to it. They never meet.
+enum class PaymentSet : std::uint8_t { liquidation, adjustment };
+[[nodiscard]] constexpr std::string_view documentsFile(PaymentSet set) {
+    return set == PaymentSet::adjustment ? versumcFile : versumFile;
+}
 
 inline constexpr std::string_view mandateKind = "Mandato di pagamento";
 inline constexpr std::string_view formKind = "Mod. F24";

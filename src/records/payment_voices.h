@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "records/adjustment_records.h"
 #include "records/overtime_records.h"
 #include "records/payment_records.h"
 
@@ -20,6 +21,15 @@ enum class PaidBy : std::uint8_t {
     date,           ///< no document: the date by which it is paid
 };
 
+/// Where the adjustment has what a voice has below: Congs.vbn takes the place of the employees, Meirinc.vbn that of
+/// Meirin.vbn.
+struct AdjustmentSource {
+    Currency AdjustmentRecord::*sum = nullptr;
+    Currency AdjustmentRecord::*rate = nullptr;
+    Currency MeirincRecord::*amount = nullptr;
+    DateText MeirincRecord::*date = nullptr;
+};
+
 struct PaymentVoice {
     std::string_view key;    ///< `Mother` of its records
     std::string_view words;  ///< as printed, blanks included
@@ -29,6 +39,7 @@ struct PaymentVoice {
     Currency MeirinRecord::*amount = nullptr;
     /// Where Meirin.vbn holds the date of the payment too.
     DateText MeirinRecord::*date = nullptr;
+    AdjustmentSource adjusted = {};
     PaidBy paidBy = PaidBy::mandateOrForm;
     /// Its documents follow the amount due, and it has a closing row in the whole list. Both deliberately leave out
     /// INPS.
@@ -41,23 +52,35 @@ inline constexpr std::array<PaymentVoice, paymentVoiceCount> paymentVoices = {{
     {.key = "Coprdi",
      .words = "Contributo Previdenziale a carico dipendente ",
      .sum = &Pay::CpDip,
-     .rate = &Pay::AliCpDip},
-    {.key = "Cofocrdi", .words = "Fondo Credito a carico dipendente  ", .sum = &Pay::FonCre, .rate = &Pay::AliFonCre},
+     .rate = &Pay::AliCpDip,
+     .adjusted = {.sum = &AdjustmentRecord::CpDip, .rate = &AdjustmentRecord::AliCpDip}},
+    {.key = "Cofocrdi",
+     .words = "Fondo Credito a carico dipendente  ",
+     .sum = &Pay::FonCre,
+     .rate = &Pay::AliFonCre,
+     .adjusted = {.sum = &AdjustmentRecord::FonCre, .rate = &AdjustmentRecord::AliFonCre}},
     {.key = "Copren",
      .words = "Contributo Previdenziale a carico Ente  ",
      .sum = &Pay::CpStato,
-     .rate = &Pay::AliCpStato},
-    {.key = "Coirap", .words = "IRAP a carico Ente  ", .sum = &Pay::Irap, .rate = &Pay::AliIrap},
-    {.key = "Irpef", .words = "IRPEF", .amount = &MeirinRecord::irpef},
+     .rate = &Pay::AliCpStato,
+     .adjusted = {.sum = &AdjustmentRecord::CpStato, .rate = &AdjustmentRecord::AliCpStato}},
+    {.key = "Coirap",
+     .words = "IRAP a carico Ente  ",
+     .sum = &Pay::Irap,
+     .rate = &Pay::AliIrap,
+     .adjusted = {.sum = &AdjustmentRecord::Irap, .rate = &AdjustmentRecord::AliIrap}},
+    {.key = "Irpef", .words = "IRPEF", .amount = &MeirinRecord::irpef, .adjusted = {.amount = &MeirincRecord::irpef}},
     {.key = "Inail",
      .words = "INAIL",
      .amount = &MeirinRecord::inail,
      .date = &MeirinRecord::inailDate,
+     .adjusted = {.amount = &MeirincRecord::inail, .date = &MeirincRecord::inailDate},
      .paidBy = PaidBy::date},
     {.key = "Inps",
      .words = "INPS",
      .amount = &MeirinRecord::inps,
      .date = &MeirinRecord::inpsDate,
+     .adjusted = {.amount = &MeirincRecord::inps, .date = &MeirincRecord::inpsDate},
      .paidBy = PaidBy::form,
      .followed = false},
 }};

@@ -1,7 +1,10 @@
 #include "reports/payments_due.h"
 
+#include <functional>
+
 #include "overtime/meirin_periods.h"
 #include "storage/numbers.h"
+#include "storage/only_record.h"
 #include "storage/record_file.h"
 
 namespace vorbano {
@@ -17,31 +20,65 @@ bool follow(PaymentRecord& record, const PaymentAmounts& due) {
     return true;
 }
 
+/// Adds the voices that are summed over all records of a file; the rates are those of its last record.
+template <class Record>
+Result<> addAll(FileSystem& files, std::string_view path, PaymentsDue& due, auto amountsOf, auto sourceOf) {
+    const auto file = RecordFile<Record>::open(files, path);
+    if (!file) return file.error();
+    return file->scan([&](int, const Record& record) {
+        const auto& amounts = amountsOf(record);
+        for (std::size_t at = 0; at < paymentVoices.size(); ++at) {
+            const auto& source = sourceOf(paymentVoices[at]);
+            if (source.sum == nullptr) continue;
+            due.amounts[at] += amounts.*source.sum;
+            due.rates[at] = amounts.*source.rate;
+        }
+    });
+}
+
+/// Takes the other voices from the one record that holds them, and holds all to cents.
+void takeAmounts(PaymentsDue& due, const auto& record, auto sourceOf) {
+    for (std::size_t at = 0; at < paymentVoices.size(); ++at) {
+        const auto& source = sourceOf(paymentVoices[at]);
+        if (source.amount != nullptr) due.amounts[at] = record.*source.amount;
+        due.amounts[at] = cents(due.amounts[at]);
+    }
+}
+
 }  // namespace
 
 Result<PaymentsDue> readPaymentsDue(FileSystem& files, const Election& election) {
     const auto path = election.employeeFile();
     if (!path) return path.error();
-    const auto employees = RecordFile<EmployeeRecord>::open(files, *path);
-    if (!employees) return employees.error();
     PaymentsDue due;
-    const auto read = employees->scan([&](int, const EmployeeRecord& record) {
-        for (std::size_t at = 0; at < paymentVoices.size(); ++at) {
-            const PaymentVoice& voice = paymentVoices[at];
-            if (voice.sum == nullptr) continue;
-            due.amounts[at] += record.pay.*voice.sum;
-            due.rates[at] = record.pay.*voice.rate;
-        }
-    });
-    if (!read) return read.error();
+    const auto sourceOf = [](const PaymentVoice& voice) -> const PaymentVoice& { return voice; };
+    const auto payOf = [](const EmployeeRecord& record) -> const Pay& { return record.pay; };
+    if (auto added = addAll<EmployeeRecord>(files, *path, due, payOf, sourceOf); !added) return added.error();
     const auto meirin = readMeirin(files, election);
     if (!meirin) return meirin.error();
-    for (std::size_t at = 0; at < paymentVoices.size(); ++at) {
-        const PaymentVoice& voice = paymentVoices[at];
-        if (voice.amount != nullptr) due.amounts[at] = (*meirin).*voice.amount;
-        due.amounts[at] = cents(due.amounts[at]);
-    }
+    takeAmounts(due, *meirin, sourceOf);
     return due;
+}
+
+Result<PaymentsDue> readAdjustmentDue(FileSystem& files, const Election& election) {
+    const auto path = election.file(congsFile);
+    if (!path) return path.error();
+    PaymentsDue due;
+    const auto sourceOf = [](const PaymentVoice& voice) -> const AdjustmentSource& { return voice.adjusted; };
+    if (auto added = addAll<AdjustmentRecord>(files, *path, due, std::identity{}, sourceOf); !added)
+        return added.error();
+    const auto meirinc = readMeirinc(files, election);
+    if (!meirinc) return meirinc.error();
+    takeAmounts(due, *meirinc, sourceOf);
+    return due;
+}
+
+Result<MeirincRecord> readMeirinc(FileSystem& files, const Election& election) {
+    const auto path = election.file(meirincFile);
+    if (!path) return path.error();
+    const auto stored = onlyRecord<MeirincRecord>(files, *path);
+    if (!stored) return stored.error();
+    return stored->value_or(MeirincRecord{});
 }
 
 std::string rateText(Currency rate) {

@@ -21,6 +21,12 @@ struct PaymentsDue {
 /// Over all employee records, and the one record of Meirin.vbn.
 [[nodiscard]] Result<PaymentsDue> readPaymentsDue(FileSystem& files, const Election& election);
 
+/// The same of the adjustment: over all records of Congs.vbn, and the one record of Meirinc.vbn. The rates are those of
+/// the last record.
+[[nodiscard]] Result<PaymentsDue> readAdjustmentDue(FileSystem& files, const Election& election);
+/// Record 1 of the election's Meirinc.vbn; zeros when it is empty.
+[[nodiscard]] Result<MeirincRecord> readMeirinc(FileSystem& files, const Election& election);
+
 /// A percentage as it stands beside its voice, "23,8%"; `Percent` of the documents.
 [[nodiscard]] std::string rateText(Currency rate);
 
