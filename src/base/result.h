@@ -19,6 +19,7 @@ enum class Failure : std::uint8_t {
     badName,        ///< a name that would leave the root, or that names nothing
     damaged,        ///< it is there, and its content is not what it should be
     full,           ///< no further record number is left (32,767 records)
+    diskFull,       ///< no room is left for it: a full disk, or all that this user may fill of it
 };
 
 /// Why, and which file, table or layout.

@@ -42,6 +42,8 @@ std::string inItalian(const Error& error) {
             return damaged(subject);
         case Failure::full:
             return "Il file " + subject + " contiene già il numero massimo di record.";
+        case Failure::diskFull:
+            return "Il file " + subject + " non è stato scritto: il disco è pieno.";
     }
     return {};
 }

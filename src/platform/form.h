@@ -25,6 +25,8 @@ class Form : public Container {
     Event activated;
     /// It is about to close, whoever asked for it.
     Event closing;
+    /// A gesture of the operator has done all that it does, and the form is still open.
+    Event gestureEnded;
 
     Form(std::string name, std::string caption) : name_(std::move(name)), caption_(std::move(caption)) {}
 

@@ -52,18 +52,27 @@ bool Operator::reaches(Control& control) {
     return form_.focused() == &control;
 }
 
+Refusal Operator::done() {
+    form_.settleFocus();
+    return dropped();
+}
+
+Refusal Operator::dropped() {
+    if (form_.isOpen()) form_.gestureEnded.fire();
+    return Refusal::none;
+}
+
 Refusal Operator::enter(Control& control) {
     if (const Refusal why = refusal(control); why != Refusal::none) return why;
     if (!control.takesFocus()) return Refusal::wrongKind;
     form_.focus(control);
-    form_.settleFocus();
-    return Refusal::none;
+    return done();
 }
 
 Refusal Operator::type(Control& control, std::string_view text) {
     if (control.kind() != Kind::textBox) return Refusal::wrongKind;
     if (const Refusal why = refusal(control); why != Refusal::none) return why;
-    if (!reaches(control)) return Refusal::none;
+    if (!reaches(control)) return dropped();
     auto& box = static_cast<TextBox&>(control);
     if (text.empty()) box.text = std::string();
     bool first = true;
@@ -78,17 +87,15 @@ Refusal Operator::type(Control& control, std::string_view text) {
         box.typed(before + std::string(key));
         if (form_.focused() != &control) break;
     }
-    form_.settleFocus();
-    return Refusal::none;
+    return done();
 }
 
 Refusal Operator::edit(Control& control, std::string_view text) {
     if (control.kind() != Kind::textBox) return Refusal::wrongKind;
     if (const Refusal why = refusal(control); why != Refusal::none) return why;
-    if (!reaches(control)) return Refusal::none;
+    if (!reaches(control)) return dropped();
     static_cast<TextBox&>(control).typed(std::string(text));
-    form_.settleFocus();
-    return Refusal::none;
+    return done();
 }
 
 void Operator::leave(bool forward) {
@@ -100,29 +107,27 @@ void Operator::leave(bool forward) {
     } else {
         form_.focus(*next);
     }
-    form_.settleFocus();
+    (void)done();
 }
 
 Refusal Operator::click(Control& control) {
     if (control.kind() != Kind::button && control.kind() != Kind::option) return Refusal::wrongKind;
     if (const Refusal why = refusal(control); why != Refusal::none) return why;
-    if (!reaches(control)) return Refusal::none;
+    if (!reaches(control)) return dropped();
     if (control.kind() == Kind::button) {
         static_cast<Button&>(control).clicked.fire();
     } else {
         static_cast<Option&>(control).checked = true;
     }
-    form_.settleFocus();
-    return Refusal::none;
+    return done();
 }
 
 Refusal Operator::tick(Control& control, bool ticked) {
     if (control.kind() != Kind::checkBox) return Refusal::wrongKind;
     if (const Refusal why = refusal(control); why != Refusal::none) return why;
-    if (!reaches(control)) return Refusal::none;
+    if (!reaches(control)) return dropped();
     static_cast<CheckBox&>(control).checked = ticked;
-    form_.settleFocus();
-    return Refusal::none;
+    return done();
 }
 
 Refusal Operator::choose(Control& control, std::string_view text) {
@@ -135,10 +140,9 @@ Refusal Operator::chooseIndex(Control& control, int index) {
     if (const Refusal why = refusal(control); why != Refusal::none) return why;
     auto& list = static_cast<ItemControl&>(control);
     if (index < 0 || index >= static_cast<int>(list.items().size())) return Refusal::noSuchItem;
-    if (!reaches(control)) return Refusal::none;
+    if (!reaches(control)) return dropped();
     list.choose(index);
-    form_.settleFocus();
-    return Refusal::none;
+    return done();
 }
 
 Refusal Operator::pick(Control& control, int row, int column) {
@@ -148,37 +152,33 @@ Refusal Operator::pick(Control& control, int row, int column) {
     const bool there = row >= 0 && row <= grid.rows() && column >= 0 &&
                        column < static_cast<int>(grid.cells()[static_cast<std::size_t>(row)].size());
     if (!there) return Refusal::noSuchItem;
-    if (!reaches(control)) return Refusal::none;
+    if (!reaches(control)) return dropped();
     grid.row = row;
     grid.column = column;
     grid.picked.fire();
-    form_.settleFocus();
-    return Refusal::none;
+    return done();
 }
 
 Refusal Operator::press(Control& control) {
     if (control.kind() != Kind::frame) return Refusal::wrongKind;
     if (const Refusal why = refusal(control); why != Refusal::none) return why;
     static_cast<Frame&>(control).pressed.fire();
-    form_.settleFocus();
-    return Refusal::none;
+    return done();
 }
 
 Refusal Operator::move(Control& control) {
     if (control.kind() != Kind::frame) return Refusal::wrongKind;
     if (const Refusal why = refusal(control); why != Refusal::none) return why;
     static_cast<Frame&>(control).moved.fire();
-    form_.settleFocus();
-    return Refusal::none;
+    return done();
 }
 
 Refusal Operator::turn(Control& control, int page) {
     if (control.kind() != Kind::tabPanel) return Refusal::wrongKind;
     if (const Refusal why = refusal(control); why != Refusal::none) return why;
-    if (!reaches(control)) return Refusal::none;
+    if (!reaches(control)) return dropped();
     static_cast<TabPanel&>(control).page = page;
-    form_.settleFocus();
-    return Refusal::none;
+    return done();
 }
 
 Refusal Operator::menu(Control& control) {
@@ -188,8 +188,7 @@ Refusal Operator::menu(Control& control) {
         if (const Refusal why = refusal(*one); why != Refusal::none) return why;
     }
     entry.clicked.fire();
-    form_.settleFocus();
-    return Refusal::none;
+    return done();
 }
 
 void Operator::close() { form_.close(); }

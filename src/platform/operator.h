@@ -46,6 +46,10 @@ class Operator {
   private:
     [[nodiscard]] static Refusal refusal(const Control& control);
     [[nodiscard]] bool reaches(Control& control);
+    /// The end of every gesture.
+    [[nodiscard]] Refusal done();
+    /// The end of one that the leave of the old control kept from its control.
+    [[nodiscard]] Refusal dropped();
     Form& form_;
 };
 

@@ -34,7 +34,8 @@ std::function<void()> shows(const Workplace& workplace) {
 }  // namespace
 
 Program::Program(FileSystem& files, Desktop& desktop, Database& staging, Database& places, PrintEngine& printing)
-    : workplace_{files, desktop, staging, printing, *this, places},
+    : watch_(files, desktop),
+      workplace_{watch_.files(), watch_.desktop(), staging, printing, *this, places},
       screens_{
           {"frmCodFisc", shows<frmCodFisc>(workplace_)},
           {"frmCompStraord", shows<frmCompStraord>(workplace_)},

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "screens/workplace.h"
+#include "screens/write_watch.h"
 
 namespace vorbano {
 
@@ -23,6 +24,7 @@ class Program : public Screens {
     void open(std::string_view name) override;
 
   private:
+    WriteWatch watch_;
     Workplace workplace_;
     /// Name of a screen, and what makes it and shows it until it closes.
     std::map<std::string, std::function<void()>, std::less<>> screens_;

@@ -134,6 +134,8 @@ std::string inWords(const Error& error) {
             return about("damaged");
         case Failure::full:
             return about("full");
+        case Failure::diskFull:
+            return about("no room on the disk");
     }
     return error.subject;
 }

@@ -4,9 +4,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <utility>
+#include <vector>
 
 namespace vorbano {
 
@@ -48,14 +50,14 @@ class DiskFile : public File {
     }
 
     Result<> write(std::uint64_t offset, std::span<const std::byte> bytes) override {
-        for (std::size_t done = 0; done < bytes.size();) {
-            const auto rest = bytes.subspan(done);
-            const auto put = uninterrupted(
-                [&] { return ::pwrite(descriptor_, rest.data(), rest.size(), static_cast<off_t>(offset + done)); });
-            if (put < 0) return lastError(subject_);
-            done += static_cast<std::size_t>(put);
-        }
-        return {};
+        const auto length = size();
+        if (!length) return length.error();
+        std::vector<std::byte> old(static_cast<std::size_t>(
+            offset < *length ? std::min<std::uint64_t>(bytes.size(), *length - offset) : std::uint64_t{0}));
+        if (const auto known = read(offset, old); !known) return known.error();
+        auto done = put(offset, bytes);
+        if (!done) takeBack(offset, old, *length);
+        return done;
     }
 
     Result<std::uint64_t> size() override {
@@ -73,6 +75,24 @@ class DiskFile : public File {
     }
 
   private:
+    Result<> put(std::uint64_t offset, std::span<const std::byte> bytes) {
+        for (std::size_t done = 0; done < bytes.size();) {
+            const auto rest = bytes.subspan(done);
+            const auto count = uninterrupted(
+                [&] { return ::pwrite(descriptor_, rest.data(), rest.size(), static_cast<off_t>(offset + done)); });
+            if (count < 0) return lastError(subject_);
+            done += static_cast<std::size_t>(count);
+        }
+        return {};
+    }
+
+    /// A full disk takes the first part of a record and refuses the rest; a part of a record must not stay behind.
+    void takeBack(std::uint64_t offset, std::span<const std::byte> old, std::uint64_t length) {
+        put(offset, old).ignore();
+        // What cannot be cut off either is told with the failure itself.
+        (void)uninterrupted([&] { return ::ftruncate(descriptor_, static_cast<off_t>(length)); });
+    }
+
     int descriptor_;
     std::filesystem::path newIn_;
     std::string subject_;
@@ -109,6 +129,10 @@ Failure failureOf(std::error_code error) {
             return Failure::refused;
         case ENAMETOOLONG:
             return Failure::badName;
+        case ENOSPC:
+        case EDQUOT:
+        case EFBIG:
+            return Failure::diskFull;
         default:
             return Failure::device;
     }

@@ -22,7 +22,8 @@ class File {
     /// Bytes read into `into` from `offset`; fewer than asked, or 0, at the end of the file. What was not read is left
     /// as it was.
     virtual Result<std::size_t> read(std::uint64_t offset, std::span<std::byte> into) = 0;
-    /// Writes all of `bytes` at `offset`; a gap before it is filled with zeros.
+    /// Writes all of `bytes` at `offset`; a gap before it is filled with zeros. A disk that has no room for all of it
+    /// (`diskFull`) keeps the file as it was.
     virtual Result<> write(std::uint64_t offset, std::span<const std::byte> bytes) = 0;
     /// Length in bytes.
     virtual Result<std::uint64_t> size() = 0;

@@ -9,11 +9,37 @@ namespace vorbano {
 
 namespace {
 
+using Room = std::shared_ptr<std::optional<std::uint64_t>>;
+
 /// What a file holds. Open files share it, so it lives on after its name is gone.
 struct Content {
+    explicit Content(Room room) : room_(std::move(room)) {}
+    Content(const Content&) = delete;
+    Content& operator=(const Content&) = delete;
+    ~Content() { giveBack(written.size()); }
+
+    /// Makes it `size` bytes long; false when the disk has no room for it.
+    bool resize(std::size_t size) {
+        if (size > written.size()) {
+            const std::uint64_t growth = size - written.size();
+            if (*room_ && **room_ < growth) return false;
+            if (*room_) **room_ -= growth;
+        } else {
+            giveBack(written.size() - size);
+        }
+        written.resize(size);
+        return true;
+    }
+
     std::vector<std::byte> written;
     std::vector<std::byte> flushed;
     bool readOnly = false;
+
+  private:
+    void giveBack(std::uint64_t bytes) {
+        if (*room_) **room_ += bytes;
+    }
+    Room room_;
 };
 
 class MemoryFile : public File {
@@ -31,10 +57,10 @@ class MemoryFile : public File {
     Result<> write(std::uint64_t offset, std::span<const std::byte> bytes) override {
         if (!mayWrite_ || content_->readOnly) return Error{Failure::refused, path_};
         if (bytes.empty()) return {};
-        auto& written = content_->written;
         const auto from = static_cast<std::size_t>(offset);
-        if (written.size() < from + bytes.size()) written.resize(from + bytes.size());
-        std::ranges::copy(bytes, written.begin() + static_cast<std::ptrdiff_t>(from));
+        const std::size_t end = from + bytes.size();
+        if (content_->written.size() < end && !content_->resize(end)) return Error{Failure::diskFull, path_};
+        std::ranges::copy(bytes, content_->written.begin() + static_cast<std::ptrdiff_t>(from));
         return {};
     }
     Result<std::uint64_t> size() override { return std::uint64_t{content_->written.size()}; }
@@ -78,7 +104,8 @@ struct MemoryFileSystem::Node {
     }
 };
 
-MemoryFileSystem::MemoryFileSystem() : root_(std::make_unique<Node>()) {}
+MemoryFileSystem::MemoryFileSystem()
+    : room_(std::make_shared<std::optional<std::uint64_t>>()), root_(std::make_unique<Node>()) {}
 MemoryFileSystem::~MemoryFileSystem() = default;
 
 Result<MemoryFileSystem::Node*> MemoryFileSystem::find(std::string_view path) {
@@ -110,7 +137,7 @@ Result<std::unique_ptr<File>> MemoryFileSystem::open(std::string_view path) {
     Node* node = (*parent)->child(name);
     if (node == nullptr) {
         if ((*parent)->readOnly) return failed(Failure::refused, path);
-        node = (*parent)->add(name, std::make_shared<Content>());
+        node = (*parent)->add(name, std::make_shared<Content>(room_));
     }
     if (node->isFolder() || node->content->readOnly) return failed(Failure::refused, path);
     return std::unique_ptr<File>(std::make_unique<MemoryFile>(node->content, true, std::string(path)));
@@ -204,5 +231,7 @@ void MemoryFileSystem::makeReadOnly(std::string_view path) {
         if (node.content) node.content->readOnly = true;
     });
 }
+
+void MemoryFileSystem::leaveRoom(std::uint64_t bytes) { *room_ = bytes; }
 
 }  // namespace vorbano

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 
 #include "storage/file_system.h"
 
@@ -26,9 +28,14 @@ class MemoryFileSystem : public FileSystem {
     void cutPower();
     /// From here on the file or folder may be read and not written ("" and its like: everything).
     void makeReadOnly(std::string_view path);
+    /// From here on the files may grow by `bytes` altogether, and then the disk is full. What a file gives up when it
+    /// is removed or replaced can be used again.
+    void leaveRoom(std::uint64_t bytes);
 
   private:
     struct Node;
+    /// Bytes by which the files may still grow; none: no end.
+    std::shared_ptr<std::optional<std::uint64_t>> room_;
     std::unique_ptr<Node> root_;
     Result<Node*> find(std::string_view path);
     Result<Node*> parentOf(std::string_view path, std::string& name);

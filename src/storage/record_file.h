@@ -13,6 +13,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "base/result.h"
@@ -123,35 +124,44 @@ class RecordFile {
     RawRecordFile raw_;
 };
 
+/// The first half of `rewrite`: what is kept goes to the companion, which is then flushed.
+template <class Record, class Change>
+[[nodiscard]] Result<> fillCompanion(FileSystem& files, std::string_view path, std::string_view companion,
+                                     Change&& change) {
+    auto from = RecordFile<Record>::open(files, path);
+    if (!from) return from.error();
+    auto to = RecordFile<Record>::open(files, companion);
+    if (!to) return to.error();
+    std::vector<Record> kept;
+    int written = 0;
+    Result<> trouble;
+    const auto put = [&] {
+        if (!trouble || kept.empty()) return;
+        trouble = to->raw().writeBlock(written + 1, std::as_bytes(std::span(kept)));
+        written += static_cast<int>(kept.size());
+        kept.clear();
+    };
+    auto done = from->scan([&](int number, Record record) {
+        if (!change(number, record)) return;
+        kept.push_back(record);
+        if (kept.size() == 1024) put();
+    });
+    if (!done) return done;
+    put();
+    if (!trouble) return trouble;
+    return to->raw().flush();
+}
+
 /// The rewrite: every record of `path` goes through `change(number, record)` into `companion`, with consecutive new
 /// numbers; a record for which it answers false is left out. The companion is then flushed and put in the place of the
 /// file in one step, so a power cut leaves the file old or new, never half. The caller holds no handle of the file.
 template <class Record, class Change>
 [[nodiscard]] Result<> rewrite(FileSystem& files, std::string_view path, std::string_view companion, Change&& change) {
     if (auto old = files.remove(companion); !old && old.error().kind != Failure::notFound) return old;
-    {
-        auto from = RecordFile<Record>::open(files, path);
-        if (!from) return from.error();
-        auto to = RecordFile<Record>::open(files, companion);
-        if (!to) return to.error();
-        std::vector<Record> kept;
-        int written = 0;
-        Result<> trouble;
-        const auto put = [&] {
-            if (!trouble || kept.empty()) return;
-            trouble = to->raw().writeBlock(written + 1, std::as_bytes(std::span(kept)));
-            written += static_cast<int>(kept.size());
-            kept.clear();
-        };
-        auto done = from->scan([&](int number, Record record) {
-            if (!change(number, record)) return;
-            kept.push_back(record);
-            if (kept.size() == 1024) put();
-        });
-        if (!done) return done;
-        put();
-        if (!trouble) return trouble;
-        if (auto flushed = to->raw().flush(); !flushed) return flushed;
+    if (auto filled = fillCompanion<Record>(files, path, companion, std::forward<Change>(change)); !filled) {
+        // On a full disk the half companion would take the room that the next command needs.
+        files.remove(companion).ignore();
+        return filled;
     }
     return files.replace(companion, path);
 }

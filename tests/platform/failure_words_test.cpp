@@ -8,7 +8,7 @@ using ::testing::HasSubstr;
 
 TEST(FailureWords, NameTheFileWhateverHappened) {
     for (const Failure kind : {Failure::notFound, Failure::missingFolder, Failure::refused, Failure::device,
-                               Failure::badName, Failure::damaged, Failure::full}) {
+                               Failure::badName, Failure::damaged, Failure::full, Failure::diskFull}) {
         EXPECT_THAT(inItalian(Error{kind, "impstr.rpt"}), HasSubstr("impstr.rpt"));
     }
 }

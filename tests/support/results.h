@@ -14,8 +14,8 @@ namespace vorbano {
 
 /// Found by the test framework.
 inline void PrintTo(Failure kind, std::ostream* out) {
-    constexpr std::array<std::string_view, 7> names = {"notFound", "missingFolder", "refused", "device",
-                                                       "badName",  "damaged",       "full"};
+    constexpr std::array<std::string_view, 8> names = {"notFound", "missingFolder", "refused", "device",
+                                                       "badName",  "damaged",       "full",    "diskFull"};
     *out << names.at(static_cast<std::size_t>(kind));
 }
 inline void PrintTo(const Error& error, std::ostream* out) {

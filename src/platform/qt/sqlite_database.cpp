@@ -66,6 +66,7 @@ Failure meaning(const QSqlError& error) {
         locked = 6,
         readOnly = 8,
         corrupt = 11,
+        full = 13,
         cannotOpen = 14,
         notDatabase = 26
     };
@@ -79,6 +80,8 @@ Failure meaning(const QSqlError& error) {
         case corrupt:
         case notDatabase:
             return Failure::damaged;
+        case full:
+            return Failure::diskFull;
         default:
             return Failure::device;
     }
