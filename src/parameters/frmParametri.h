@@ -7,6 +7,9 @@
 #include <string_view>
 #include <vector>
 
+#include "parameters/adjustment.h"
+#include "parameters/dated_rates.h"
+#include "parameters/election_rewrite.h"
 #include "parameters/rate_entry.h"
 #include "platform/form.h"
 #include "records/tariff_records.h"
@@ -90,6 +93,18 @@ struct frmParametri {
     void cmdTarVecchie_Click();
     void Check45_Click();
     void cmdAggTar_Click();
+    /// The screen to PmDip.dat, with the mark of the version last loaded.
+    void applica();
+    /// The `Day` rates of OldPmDip.dat, or of NewPmDip.dat without its last ten rows, to the hidden labels. False when
+    /// the disk failed, which the clerk has then been told.
+    bool listaold();
+    bool listanuove();
+    /// The election named on the screen to the tariffs on show, when those are the new ones; when they are the old
+    /// ones.
+    void aggiorna();
+    void aggiorna2();
+    /// Deliberately does nothing.
+    static void lista() {}
 
     // The election that is rewritten or adjusted.
     void Combo1_Click();
@@ -104,8 +119,8 @@ struct frmParametri {
     void Conguagli();
     /// The block of the date of effect to the screen.
     void Conguaglia();
-    /// The second run of a joint election.
-    void Conguaglio1();
+    /// The second run of a joint election; false when it came to nothing, which the clerk has then been told.
+    bool Conguaglio1();
 
     void Check21_Click();
     void cmdSalva1_Click();
@@ -120,6 +135,7 @@ struct frmParametri {
 
   private:
     void makeStaffPage();
+    void makeVersions();
     void makeElectionPanels();
     void makeSecretariesPage();
     void makeContributionsPage();
@@ -136,15 +152,30 @@ struct frmParametri {
     void offerElections();
     void forgetElection();
 
+    bool showVersion(std::string_view file, std::string_view mark);
+    bool beginVersion(std::string_view file, std::string_view mark);
+    bool electionIsNamed();
+    bool listDayRates(std::string_view file, std::size_t count);
+    void rewriteStored(const RewriteDirection& direction);
+
     void openStaffRow(RateRow& row);
     void openSecretaryRow(RateRow& row);
     void openPercentage(Percentage& percentage);
     void lockStaff();
+    void closeStaff();
+    void showStaff(const TariffTable& table);
+    /// The rates on show to one of the three files of the table; false when that was not to be, which the clerk has
+    /// been told.
+    bool storeStaff(std::string_view file, std::string_view mark);
 
     /// The rates typed in a row, to cents; nothing when a text is no number, which the clerk has then been told.
     std::optional<Rates> ratesOf(RateRow& row);
+    /// Those of the 32 rows, as typed.
+    std::optional<RateTable> ratesOnScreen();
     /// The 32 rows as shown, with the mark; nothing as for `ratesOf`.
     std::optional<TariffTable> tableOnScreen(std::string_view mark);
+    /// One run over the election at the rates on the screen; false as for `Conguaglio1`.
+    bool adjust(const AdjustmentRun& run);
     /// `where` names the place of the field.
     void refuse(const std::string& where, CheckBox& box, TextBox& field);
     void say(std::string_view text);

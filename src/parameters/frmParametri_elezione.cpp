@@ -17,7 +17,6 @@ void frmParametri::makeElectionPanels() {
     Combo1.items = TipoElezioni(desk_.files);
     Combo1.clicked.calls(this, &This::Combo1_Click);
     Combo2.clicked.calls(this, &This::Combo2_Click);
-    Check45.clicked.calls(this, &This::Check45_Click);
     Check46.clicked.calls(this, &This::Check46_Click);
     cboDeco.clicked.calls(this, &This::cboDeco_Click);
     lblDeco.change.calls(this, &This::lblDeco_Change);

@@ -49,6 +49,7 @@ void frmParametri::makeStaffPage() {
     Check20.clicked.calls(this, &frmParametri::Check20_Click);
     cmdSalva.clicked.calls(this, &frmParametri::cmdSalva_Click);
     cmdStampa.clicked.calls(this, &frmParametri::cmdStampa_Click);
+    makeVersions();
     makeElectionPanels();
 }
 
@@ -61,16 +62,24 @@ void frmParametri::loadStaff() {
         form.focus(rows.front().Day);
         return;
     }
-    Check20.checked = false;
-    // Rows opened one by one are closed too: what is shown from here on is what is stored.
-    lockStaff();
-    cmdSalva.enabled = false;
+    closeStaff();
     if (!table) {
         wellDone(table.error(), desk_.desktop);
         return;
     }
     Label31.text = (*table)->mark(0);
-    for (int row = 0; row < tariffRowCount; ++row) rows[static_cast<std::size_t>(row)].show((*table)->rates(row));
+    showStaff(**table);
+}
+
+/// Rows opened one by one are closed too: what is shown from here on is what is stored.
+void frmParametri::closeStaff() {
+    Check20.checked = false;
+    lockStaff();
+    cmdSalva.enabled = false;
+}
+
+void frmParametri::showStaff(const TariffTable& table) {
+    for (int row = 0; row < tariffRowCount; ++row) rows[static_cast<std::size_t>(row)].show(table.rates(row));
 }
 
 void frmParametri::openStaffRow(RateRow& row) {
@@ -104,12 +113,23 @@ void frmParametri::Check20_Click() {
     }
 }
 
+std::optional<RateTable> frmParametri::ratesOnScreen() {
+    RateTable table;
+    for (std::size_t at = 0; at < table.size(); ++at) {
+        const auto rates = ratesOf(rows[at]);
+        if (!rates) return std::nullopt;
+        table[at] = *rates;
+    }
+    return table;
+}
+
 std::optional<TariffTable> frmParametri::tableOnScreen(std::string_view mark) {
+    const auto shown = ratesOnScreen();
+    if (!shown) return std::nullopt;
     TariffTable table;
     for (int at = 0; at < tariffRowCount; ++at) {
-        const auto rates = ratesOf(rows[static_cast<std::size_t>(at)]);
-        if (!rates) return std::nullopt;
-        table.set(at, mark, {cents(rates->Day), cents(rates->Fn), cents(rates->Nf)});
+        const Rates& rates = (*shown)[static_cast<std::size_t>(at)];
+        table.set(at, mark, {cents(rates.Day), cents(rates.Fn), cents(rates.Nf)});
     }
     return table;
 }
@@ -120,9 +140,7 @@ void frmParametri::cmdSalva_Click() {
         return;
     }
     const std::string mark(trim(Label31.text()));
-    const auto table = tableOnScreen(mark);
-    if (!table) return;
-    if (!wellDone(storeOnlyRecord(desk_.files, pmDipFile, *table), desk_.desktop)) return;
+    if (!storeStaff(pmDipFile, mark)) return;
     // Setting it first lets the clearing reach every row, also those opened one by one.
     Check20.checked = true;
     Check20.checked = false;
@@ -130,14 +148,13 @@ void frmParametri::cmdSalva_Click() {
     if (mark == "\\") salvavecchie();
 }
 
-void frmParametri::salvanuove() {
-    if (const auto table = tableOnScreen("/"))
-        wellDone(storeOnlyRecord(desk_.files, newPmDipFile, *table), desk_.desktop);
-}
+void frmParametri::salvanuove() { storeStaff(newPmDipFile, "/"); }
 
-void frmParametri::salvavecchie() {
-    if (const auto table = tableOnScreen("\\"))
-        wellDone(storeOnlyRecord(desk_.files, oldPmDipFile, *table), desk_.desktop);
+void frmParametri::salvavecchie() { storeStaff(oldPmDipFile, "\\"); }
+
+bool frmParametri::storeStaff(std::string_view file, std::string_view mark) {
+    const auto table = tableOnScreen(mark);
+    return table && wellDone(storeOnlyRecord(desk_.files, file, *table), desk_.desktop);
 }
 
 }  // namespace vorbano
