@@ -1,7 +1,7 @@
 # Sourced by ./run and ./test: installs the Debian 12 packages that are missing, and nothing else.
 
 packages=(
-  git cmake ninja-build g++ ccache
+  git cmake ninja-build g++
   qt6-base-dev libqt6sql6-sqlite libkainjow-mustache-dev
   libgtest-dev libgmock-dev libbenchmark-dev libsqlite3-dev
   clang-format clang-tidy
@@ -22,4 +22,3 @@ if [ ${#missing[@]} -gt 0 ]; then
 fi
 
 jobs=$(nproc)
-export CCACHE_DIR="${CCACHE_DIR:-$PWD/build/ccache}"

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "overtime/pools.h"
 #include "storage/codepage.h"
 #include "storage/dates.h"
 #include "storage/numbers.h"
@@ -93,7 +94,6 @@ const std::array<LiquidationNames, maxPeriods> liquidationNames = {{
 
 namespace {
 
-constexpr int hourDigits = 4;
 constexpr int dateDigits = 10;
 
 std::string named(std::string_view name) { return std::string(name); }

@@ -20,8 +20,6 @@ namespace {
 
 std::string whole(std::int64_t number) { return format(static_cast<double>(number), Mask::whole); }
 
-constexpr int hourDigits = 4;
-
 }  // namespace
 
 PeriodPanel::PeriodPanel(Form& form, const PeriodNames& names)

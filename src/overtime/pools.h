@@ -15,6 +15,9 @@
 
 namespace vorbano {
 
+/// What a field of hours takes.
+inline constexpr int hourDigits = 4;
+
 /// The periods that every election has.
 inline constexpr std::size_t earlyPeriods = 3;
 

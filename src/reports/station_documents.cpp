@@ -35,16 +35,16 @@ struct StationPapers {
 constexpr std::string_view politicheComunali = "Politiche_Comunali";
 constexpr std::string_view provincialiComunali = "Provinciali_Comunali";
 
-constexpr std::array normalFirst = {LayoutOf{"Provinciali", "riepsegprov.rpt"},
-                                    LayoutOf{provincialiComunali, "riepsegprocom.rpt"},
-                                    LayoutOf{politicheComunali, "riepsegaltri.rpt"}};
-constexpr std::array normalRunOff = {LayoutOf{"Provinciali", "rieseprosuf.rpt"},
-                                     LayoutOf{provincialiComunali, "riseprcosuf.rpt"},
-                                     LayoutOf{politicheComunali, "riepsegaltri.rpt"}};
-constexpr std::array specialFirst = {LayoutOf{politicheComunali, "specialtri.rpt"},
-                                     LayoutOf{provincialiComunali, "specialtri.rpt"}};
-constexpr std::array specialRunOff = {LayoutOf{politicheComunali, "spaltrisuf.rpt"},
-                                      LayoutOf{provincialiComunali, "spaltrisuf.rpt"}};
+constexpr std::array normalFirstSummaries = {LayoutOf{"Provinciali", "riepsegprov.rpt"},
+                                             LayoutOf{provincialiComunali, "riepsegprocom.rpt"},
+                                             LayoutOf{politicheComunali, "riepsegaltri.rpt"}};
+constexpr std::array normalRunOffSummaries = {LayoutOf{"Provinciali", "rieseprosuf.rpt"},
+                                              LayoutOf{provincialiComunali, "riseprcosuf.rpt"},
+                                              LayoutOf{politicheComunali, "riepsegaltri.rpt"}};
+constexpr std::array specialFirstSummaries = {LayoutOf{politicheComunali, "specialtri.rpt"},
+                                              LayoutOf{provincialiComunali, "specialtri.rpt"}};
+constexpr std::array specialRunOffSummaries = {LayoutOf{politicheComunali, "spaltrisuf.rpt"},
+                                               LayoutOf{provincialiComunali, "spaltrisuf.rpt"}};
 
 constexpr std::array combinedFirst = {LayoutOf{politicheComunali, "conaltri.rpt"},
                                       LayoutOf{provincialiComunali, "conaltri.rpt"}};
@@ -62,13 +62,13 @@ constexpr std::string_view specialQuestion = "Volete stampare i componenti di tu
 
 /// By kind of station, then by round. The normal run-off has a layout of its own for provincial elections only.
 constexpr std::array<std::array<StationPapers, 2>, 2> papers = {{
-    {{{normalTitle, normalFirst, "riepseg.rpt", combinedFirst, "seggi.rpt", "Stampa seggi normali - 1° turno",
+    {{{normalTitle, normalFirstSummaries, "riepseg.rpt", combinedFirst, "seggi.rpt", "Stampa seggi normali - 1° turno",
        normalQuestion},
-      {normalTitle, normalRunOff, "riepseg.rpt", combinedRunOff, "segsuf.rpt", "Stampa seggi normali - BALLOTTAGGIO",
-       normalQuestion}}},
-    {{{specialTitle, specialFirst, "riepspec.rpt", combinedSpecial, "SegSpeciale.rpt",
+      {normalTitle, normalRunOffSummaries, "riepseg.rpt", combinedRunOff, "segsuf.rpt",
+       "Stampa seggi normali - BALLOTTAGGIO", normalQuestion}}},
+    {{{specialTitle, specialFirstSummaries, "riepspec.rpt", combinedSpecial, "SegSpeciale.rpt",
        "Stampa seggi SPECIALI - 1° turno", specialQuestion},
-      {specialTitle, specialRunOff, "riespesuf.rpt", combinedSpecialRunOff, "SegSpecsuf.rpt",
+      {specialTitle, specialRunOffSummaries, "riespesuf.rpt", combinedSpecialRunOff, "SegSpecsuf.rpt",
        "Stampa seggi SPECIALI - BALLOTTAGGIO", specialQuestion}}},
 }};
 

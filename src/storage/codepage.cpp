@@ -62,7 +62,7 @@ void appendUtf8(std::string& text, char32_t character) {
     }
 }
 
-char32_t upperCase(char32_t character) {
+char32_t upperCased(char32_t character) {
     if (character >= U'a' && character <= U'z') return character - 0x20;
     // Latin-1 has its small letters 0x20 after the capitals; in their midst stands the division sign.
     if (character >= 0xE0 && character <= 0xFE && character != 0xF7) return character - 0x20;
@@ -133,7 +133,7 @@ std::string upperCase(std::string_view utf8) {
         if (character == malformed) {
             upper += utf8[from];
         } else {
-            appendUtf8(upper, upperCase(character));
+            appendUtf8(upper, upperCased(character));
         }
     }
     return upper;

@@ -75,7 +75,7 @@ class MemoryFile : public File {
     std::string path_;
 };
 
-Error failed(Failure kind, std::string_view path) { return {kind, std::string(path)}; }
+Error refusal(Failure kind, std::string_view path) { return {kind, std::string(path)}; }
 
 }  // namespace
 
@@ -114,7 +114,7 @@ Result<MemoryFileSystem::Node*> MemoryFileSystem::find(std::string_view path) {
     Node* node = root_.get();
     for (const std::string& name : *names) {
         node = node->child(name);
-        if (node == nullptr) return failed(Failure::notFound, path);
+        if (node == nullptr) return refusal(Failure::notFound, path);
     }
     return node;
 }
@@ -122,10 +122,10 @@ Result<MemoryFileSystem::Node*> MemoryFileSystem::find(std::string_view path) {
 Result<MemoryFileSystem::Node*> MemoryFileSystem::parentOf(std::string_view path, std::string& name) {
     const auto names = splitPath(path);
     if (!names) return names.error();
-    if (names->empty()) return failed(Failure::badName, path);
+    if (names->empty()) return refusal(Failure::badName, path);
     Node* node = root_.get();
     for (std::size_t at = 0; at + 1 < names->size() && node != nullptr; ++at) node = node->child((*names)[at]);
-    if (node == nullptr || !node->isFolder()) return failed(Failure::missingFolder, path);
+    if (node == nullptr || !node->isFolder()) return refusal(Failure::missingFolder, path);
     name = names->back();
     return node;
 }
@@ -136,17 +136,17 @@ Result<std::unique_ptr<File>> MemoryFileSystem::open(std::string_view path) {
     if (!parent) return parent.error();
     Node* node = (*parent)->child(name);
     if (node == nullptr) {
-        if ((*parent)->readOnly) return failed(Failure::refused, path);
+        if ((*parent)->readOnly) return refusal(Failure::refused, path);
         node = (*parent)->add(name, std::make_shared<Content>(room_));
     }
-    if (node->isFolder() || node->content->readOnly) return failed(Failure::refused, path);
+    if (node->isFolder() || node->content->readOnly) return refusal(Failure::refused, path);
     return std::unique_ptr<File>(std::make_unique<MemoryFile>(node->content, true, std::string(path)));
 }
 
 Result<std::unique_ptr<File>> MemoryFileSystem::openExisting(std::string_view path) {
     auto node = find(path);
     if (!node) return node.error();
-    if ((*node)->isFolder()) return failed(Failure::refused, path);
+    if ((*node)->isFolder()) return refusal(Failure::refused, path);
     return std::unique_ptr<File>(std::make_unique<MemoryFile>((*node)->content, false, std::string(path)));
 }
 
@@ -158,12 +158,12 @@ Result<> MemoryFileSystem::replace(std::string_view from, std::string_view to) {
     auto source = parentOf(from, fromName);
     if (!source && source.error().kind == Failure::badName) return source.error();
     Node* const moved = source ? (*source)->child(fromName) : nullptr;
-    if (moved == nullptr) return failed(Failure::notFound, from);
+    if (moved == nullptr) return refusal(Failure::notFound, from);
 
     Node* const old = (*target)->child(toName);
     if (moved == old) return {};
     const bool readOnly = (*source)->readOnly || (*target)->readOnly || moved->readOnly || (old && old->readOnly);
-    if (readOnly || moved->isFolder() || (old && old->isFolder())) return failed(Failure::refused, to);
+    if (readOnly || moved->isFolder() || (old && old->isFolder())) return refusal(Failure::refused, to);
     // What stands there keeps its spelling and takes the other's content; who has it open still sees the old one.
     Node* const place = old ? old : (*target)->add(toName, nullptr);
     place->content = moved->content;
@@ -174,11 +174,11 @@ Result<> MemoryFileSystem::replace(std::string_view from, std::string_view to) {
 Result<> MemoryFileSystem::remove(std::string_view path) {
     auto node = find(path);
     if (!node) return node.error();
-    if ((*node)->isFolder()) return failed(path.empty() ? Failure::badName : Failure::refused, path);
+    if ((*node)->isFolder()) return refusal(path.empty() ? Failure::badName : Failure::refused, path);
     std::string name;
     auto parent = parentOf(path, name);
     if (!parent) return parent.error();
-    if ((*node)->readOnly || (*parent)->readOnly) return failed(Failure::refused, path);
+    if ((*node)->readOnly || (*parent)->readOnly) return refusal(Failure::refused, path);
     (*parent)->children.erase(upperCase(name));
     return {};
 }
@@ -186,7 +186,7 @@ Result<> MemoryFileSystem::remove(std::string_view path) {
 Result<std::vector<Entry>> MemoryFileSystem::list(std::string_view folder) {
     auto node = find(folder);
     if (!node && node.error().kind == Failure::badName) return node.error();
-    if (!node || !(*node)->isFolder()) return failed(Failure::missingFolder, folder);
+    if (!node || !(*node)->isFolder()) return refusal(Failure::missingFolder, folder);
     std::vector<Entry> entries;
     for (const auto& [key, child] : (*node)->children) entries.push_back({child->name, child->isFolder()});
     return entries;
@@ -198,9 +198,9 @@ Result<> MemoryFileSystem::makeFolder(std::string_view path) {
     auto parent = parentOf(path, name);
     if (!parent) return parent.error();
     if (const Node* there = (*parent)->child(name)) {
-        return there->isFolder() ? Result<>() : failed(Failure::refused, path);
+        return there->isFolder() ? Result<>() : refusal(Failure::refused, path);
     }
-    if ((*parent)->readOnly) return failed(Failure::refused, path);
+    if ((*parent)->readOnly) return refusal(Failure::refused, path);
     (*parent)->add(name, nullptr);
     return {};
 }
@@ -212,7 +212,7 @@ Result<> MemoryFileSystem::removeFolder(std::string_view path) {
     auto parent = parentOf(path, name);
     if (!parent) return parent.error();
     const bool readOnly = (*node)->readOnly || (*parent)->readOnly;
-    if (readOnly || !(*node)->isFolder() || !(*node)->children.empty()) return failed(Failure::refused, path);
+    if (readOnly || !(*node)->isFolder() || !(*node)->children.empty()) return refusal(Failure::refused, path);
     (*parent)->children.erase(upperCase(name));
     return {};
 }

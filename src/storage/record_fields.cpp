@@ -21,8 +21,8 @@ Native numberIn(std::span<const std::byte> content) {
 }
 
 std::string amountText(Currency amount) {
-    constexpr std::int64_t unitsInCent = 100;
-    const std::int64_t behindCents = amount.units() % unitsInCent;
+    constexpr std::int64_t cent = 100;
+    const std::int64_t behindCents = amount.units() % cent;
     if (behindCents == 0) return format(amount, Mask::amount);
 
     // The cents are cut, not rounded, and the sign is put by hand: it would be lost in -0,0050.

@@ -8,6 +8,8 @@ class QPainter;
 
 namespace vorbano {
 
+inline constexpr double pxInMillimetre = 96 / 25.4;
+
 /// A part of a finished document: some text, or a table. It knows the boxes it falls into and can paint any of them.
 /// Lengths are px, 96 to the inch.
 class DocumentPiece {

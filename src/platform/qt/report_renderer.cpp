@@ -13,8 +13,6 @@ namespace vorbano {
 
 namespace {
 
-constexpr double pxInMillimetre = 96 / 25.4;
-
 /// What the pieces of a document point into.
 struct Content {
     Layout layout;

@@ -9,7 +9,6 @@ namespace vorbano {
 
 namespace {
 
-constexpr double pxInMillimetre = 96 / 25.4;
 constexpr double leastShareMillimetres = 20;
 /// More lines than this in one cell are cut: the text is no name any more.
 constexpr int mostLines = 40;

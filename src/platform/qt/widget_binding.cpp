@@ -19,11 +19,6 @@ namespace {
 
 constexpr int anyLength = 32767;
 
-template <class Widget>
-QWidget* newWidget(QWidget* parent) {
-    return new Widget(parent);
-}
-
 /// The caption that a widget shows for the form's one. The window's own words stay as long as the program has given
 /// none, and where they only add a mnemonic.
 QString caption(QWidget& widget, const QString& present, const std::string& wanted) {

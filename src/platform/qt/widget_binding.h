@@ -52,6 +52,11 @@ struct WidgetBinding {
     QWidget* (*focusPart)(QWidget&) = nullptr;
 };
 
+template <class Widget>
+QWidget* newWidget(QWidget* parent) {
+    return new Widget(parent);
+}
+
 /// nullptr for menu entries and timers, which have no widget.
 [[nodiscard]] const WidgetBinding* bindingOf(Kind kind);
 /// The widget can show a control of that kind.

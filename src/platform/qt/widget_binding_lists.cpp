@@ -15,12 +15,7 @@ namespace vorbano {
 
 namespace {
 
-template <class Widget>
-QWidget* newWidget(QWidget* parent) {
-    return new Widget(parent);
-}
-
-QStringList shown(const Lines& lines) {
+QStringList textsOf(const Lines& lines) {
     QStringList texts;
     texts.reserve(static_cast<qsizetype>(lines.size()));
     for (const std::string& line : lines) texts.append(QString::fromStdString(line));
@@ -49,7 +44,7 @@ void bringCombo(const Control& control, QWidget& widget) {
     const int index = source.selection();
     const bool isLine =
         index >= 0 && index < combo.count() && source.items()[static_cast<std::size_t>(index)] == source.text();
-    combo.setPlaceholderText(isLine ? QString() : vorbano::shown(source.text()));
+    combo.setPlaceholderText(isLine ? QString() : shown(source.text()));
     if (combo.currentIndex() != (isLine ? index : -1)) combo.setCurrentIndex(isLine ? index : -1);
     combo.update();
 }
@@ -58,7 +53,7 @@ void bringComboLines(const Control& control, QWidget& widget) {
     auto& combo = static_cast<QComboBox&>(widget);
     const QSignalBlocker quiet(combo);
     combo.clear();
-    combo.addItems(shown(static_cast<const ComboBox&>(control).items()));
+    combo.addItems(textsOf(static_cast<const ComboBox&>(control).items()));
     combo.setCurrentIndex(-1);
 }
 
@@ -90,7 +85,7 @@ void bringList(const Control& control, QWidget& widget) {
 void bringListLines(const Control& control, QWidget& widget) {
     auto& list = static_cast<QListWidget&>(widget);
     list.clear();
-    list.addItems(shown(static_cast<const ListBox&>(control).items()));
+    list.addItems(textsOf(static_cast<const ListBox&>(control).items()));
 }
 
 bool pressList(Control& control, QWidget& widget, const QObject* part, QPoint at, const Act& act) {
@@ -218,19 +213,19 @@ void bringGridCells(const Control& control, QWidget& widget) {
     table.clearContents();
     table.setRowCount(std::max(0, grid.rows()));
     table.setColumnCount(static_cast<int>(columns));
-    QStringList heading = cells.empty() ? QStringList() : shown(cells.front());
+    QStringList heading = cells.empty() ? QStringList() : textsOf(cells.front());
     while (heading.size() < static_cast<qsizetype>(columns)) heading.append(QString());
     table.setHorizontalHeaderLabels(heading);
     for (int column = 0; column < static_cast<int>(columns); ++column) {
         // A heading stands above its figures.
-        const QString first = vorbano::shown(grid.cell(1, column)).trimmed();
+        const QString first = shown(grid.cell(1, column)).trimmed();
         const bool right = !first.isEmpty() && isNumber(first);
         table.horizontalHeaderItem(column)->setTextAlignment((right ? Qt::AlignRight : Qt::AlignLeft) |
                                                              Qt::AlignVCenter);
     }
     for (int row = 1; row <= grid.rows(); ++row) {
         for (int column = 0; column < static_cast<int>(columns); ++column) {
-            const QString text = vorbano::shown(grid.cell(row, column));
+            const QString text = shown(grid.cell(row, column));
             auto* item = new QTableWidgetItem(text);
             const bool right = isNumber(text.trimmed());
             item->setTextAlignment((right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
