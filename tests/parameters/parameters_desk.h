@@ -59,6 +59,7 @@ class ParametriTest : public ::testing::Test {
     }
     std::string text(std::string_view name) { return control(name).shownText(); }
     bool enabled(std::string_view name) { return control(name).isEnabled(); }
+    bool visible(std::string_view name) { return control(name).isVisible(); }
     bool ticked(std::string_view name) { return dynamic_cast<CheckBox&>(control(name)).checked(); }
     std::string focused() {
         const Control* found = screen->form.focused();
@@ -73,6 +74,9 @@ class ParametriTest : public ::testing::Test {
         EXPECT_EQ(clerk().tick(control(name), on), Refusal::none) << name;
     }
     void click(std::string_view name) { EXPECT_EQ(clerk().click(control(name)), Refusal::none) << name; }
+    void choose(std::string_view name, std::string_view item) {
+        EXPECT_EQ(clerk().choose(control(name), item), Refusal::none) << name << " " << item;
+    }
     void tab(int page) { EXPECT_EQ(clerk().turn(screen->SSTab1, page), Refusal::none); }
 
     std::string file(std::string_view name) { return contentOf(files, "Params/" + std::string(name)); }

@@ -1,0 +1,177 @@
+// The disk fails or stops at every operation of a version command: each file is whole afterwards, old or new, and the
+// command can be given again.
+
+#include "versions_desk.h"
+
+namespace vorbano::test {
+namespace {
+
+using ::testing::AnyOf;
+
+/// The files that a command changes, before and after.
+struct Change {
+    std::string path, before, after;
+};
+
+class VersionFaults : public VersionsDesk {
+  protected:
+    FailingFileSystem failing{files};
+
+    void prepare(const std::vector<Change>& changes) {
+        failing.failOnce(0);
+        files.remove("Elezioni/Europee/09-06-24/Reverse.vbn").ignore();
+        layVersions();
+        for (const Change& each : changes) {
+            ASSERT_TRUE(lay(files, each.path, each.before));
+        }
+        openOn(failing, staging, printing);
+    }
+    void expectWhole(const std::vector<Change>& changes) {
+        for (const Change& each : changes)
+            EXPECT_THAT(contentOf(files, each.path), AnyOf(each.before, each.after)) << each.path;
+    }
+    void expectDone(const std::vector<Change>& changes) {
+        for (const Change& each : changes)
+            EXPECT_EQ(toHex(contentOf(files, each.path)), toHex(each.after)) << each.path;
+    }
+    static auto anErrorWasTold() {
+        return ::testing::ElementsAre(::testing::HasSubstr("nobody expected the box \"Errore\""));
+    }
+
+    /// `get_ready` are the gestures before the command and `give` the command itself.
+    template <class GetReady, class Give>
+    void failEverywhere(const std::vector<Change>& changes, const GetReady& getReady, const Give& give) {
+        prepare(changes);
+        getReady();
+        failing.failOnce(0);
+        give();
+        const int operations = failing.operations();
+        EXPECT_GE(operations, 4);
+        expectDone(changes);
+        for (int n = 1; n <= operations; ++n) {
+            SCOPED_TRACE("fails at " + std::to_string(n));
+            prepare(changes);
+            getReady();
+            failing.failOnce(n);
+            give();
+            failing.failOnce(0);
+            EXPECT_THAT(desktop.finish(), anErrorWasTold());
+            expectWhole(changes);
+            give();
+            expectDone(changes);
+        }
+        for (int n = 1; n <= operations; ++n) {
+            SCOPED_TRACE("stops at " + std::to_string(n));
+            prepare(changes);
+            getReady();
+            failing.stopAt(n);
+            give();
+            failing.stopAt(0);
+            files.cutPower();
+            EXPECT_THAT(desktop.finish(), ::testing::Not(::testing::IsEmpty()));
+            expectWhole(changes);
+            openOn(failing, staging, printing);
+            getReady();
+            give();
+            expectDone(changes);
+        }
+    }
+};
+
+TEST_F(VersionFaults, TheNewTariffsComeIntoForce) {
+    failEverywhere(
+        {{"Params/PmDip.dat", inForce, newVersion}}, [] {}, [&] { click("cmdTarNuove"); });
+}
+
+TEST_F(VersionFaults, TheOldTariffsComeIntoForce) {
+    failEverywhere(
+        {{"Params/PmDip.dat", newVersion, oldVersion}}, [] {}, [&] { click("cmdTarVecchie"); });
+}
+
+/// The statement with the overtime of one employee and 78,90 INAIL.
+std::string statementOf(int cents) {
+    RendiRecord record = statement();
+    record.Straordinario = cent(cents);
+    record.Totale = cent(100'000 + cents);
+    record.Differenza = cent(100'000 + cents - 150'000);
+    return bytesOf(record);
+}
+
+TEST_F(VersionFaults, AnElectionIsRewritten) {
+    ASSERT_TRUE(lay(files, pathIn(europee, meirinFile), meirinBytes()));
+    failEverywhere(
+        {{employeesOf(europee), oldB6, newB6},
+         {pathIn(europee, rendiFile), statementOf(12'345), statementOf(62'457 + 7'890)}},
+        [&] { chooseElection(); }, [&] { click("cmdTarNuove"); });
+}
+
+TEST_F(VersionFaults, AnElectionIsRewrittenBack) {
+    ASSERT_TRUE(lay(files, pathIn(europee, meirinFile), meirinBytes()));
+    failEverywhere(
+        {{employeesOf(europee), newB6, oldB6},
+         {pathIn(europee, rendiFile), statementOf(12'345), statementOf(59'744 + 7'890)}},
+        [&] { chooseElection(); }, [&] { click("cmdTarVecchie"); });
+}
+
+TEST_F(VersionFaults, AVersionBegins) {
+    const std::string table = tariffBytes("/", oldCents);
+    const std::string question =
+        "Le nuove tariffe non sono ancora state salvate.\nVolete salvare come nuove tariffe quelle mostrate?";
+    const std::vector<Change> changes = {{"Params/PmDip.dat", inForce, table}, {"Params/NewPmDip.dat", "", table}};
+    prepare(changes);
+    failing.failOnce(0);
+    desktop.box("Tariffe", question, ScriptedDesktop::Answer::yes);
+    click("cmdTarNuove");
+    const int operations = failing.operations();
+    expectDone(changes);
+    // The question is asked once the file has been looked into; then the version is stored, and then the table.
+    for (const bool stops : {false, true}) {
+        for (int n = 1; n <= operations; ++n) {
+            SCOPED_TRACE((stops ? "stops at " : "fails at ") + std::to_string(n));
+            prepare(changes);
+            stops ? failing.stopAt(n) : failing.failOnce(n);
+            desktop.box("Tariffe", question, ScriptedDesktop::Answer::yes);
+            click("cmdTarNuove");
+            stops ? failing.stopAt(0) : failing.failOnce(0);
+            if (stops) files.cutPower();
+            EXPECT_THAT(desktop.finish(), ::testing::Not(::testing::IsEmpty()));
+            expectWhole(changes);
+        }
+    }
+}
+
+TEST_F(VersionFaults, TheAnnouncementOfAnUpdateIsNotMadeWhenTheOldTariffsCannotBeRead) {
+    ASSERT_TRUE(files.makeFolder("Elezioni").ok());
+    ASSERT_TRUE(files.makeFolder("Elezioni/Europee").ok());
+    ASSERT_TRUE(files.makeFolder("Elezioni/Europee/09-06-24").ok());
+    prepare({});
+    tick("Check45");
+    choose("Combo1", "Europee");
+    choose("Combo2", "09-06-24");
+    desktop.box("Aggiornamento tariffe compenso lavoro straordinario",
+                "ATTENZIONE!\nSTATE PER ATTIVARE L'AGGIORNAMENTO DELLE TARIFFE PER LE ELEZIONI: EUROPEE DEL 09-06-24" +
+                    std::string(67, ' ') + "\nVOLETE AVVIARE IL PROCEDIMENTO?",
+                ScriptedDesktop::Answer::yes);
+    failing.failOnce(1);
+    click("cmdAggTar");
+    failing.failOnce(0);
+    EXPECT_THAT(desktop.finish(), anErrorWasTold());
+    EXPECT_TRUE(ticked("Check45"));
+}
+
+TEST_F(VersionFaults, AReadOnlyEmployeeFileIsToldAndNothingChanges) {
+    layVersions();
+    layEmployees(oldB6);
+    files.makeReadOnly(employeesOf(europee));
+    open();
+    chooseElection();
+    desktop.box("Errore",
+                "Il file Elezioni/Europee/09-06-24/09-06-24.vbn non può essere letto o scritto: controllare "
+                "che non sia di sola lettura.");
+    click("cmdTarNuove");
+    EXPECT_EQ(employees(), oldB6);
+    EXPECT_EQ(bytesOf(statementNow()), bytesOf(statement()));
+}
+
+}  // namespace
+}  // namespace vorbano::test
