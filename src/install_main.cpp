@@ -1,19 +1,41 @@
 // Lays the delivered installation under the root: layouts, the two databases, the list of municipalities. What is there
-// already stays as it is.
+// already stays as it is. With --window a failure is told in a window, for a clerk who has no terminal.
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <cstdio>
+#include <cstring>
 
 #include "platform/qt/installation.h"
+#include "platform/qt/qt_desktop.h"
+#include "platform/qt/style.h"
 #include "storage/disk_file_system.h"
 
-int main(int argc, char** argv) {
-    const QCoreApplication application(argc, argv);
-    const std::string root = vorbano::installationRoot().string();
-    if (const auto done = vorbano::layInstallation(root); !done) {
-        std::fprintf(stderr, "L'installazione in %s non è riuscita: %s\n", root.c_str(), done.error().subject.c_str());
-        return 1;
+namespace {
+
+int lay(const std::string& root, bool inWindow) {
+    const auto done = vorbano::layInstallation(root);
+    if (done) {
+        std::printf("Installazione pronta in %s\n", root.c_str());
+        return 0;
     }
-    std::printf("Installazione pronta in %s\n", root.c_str());
-    return 0;
+    const std::string words = "L'installazione in " + root + " non è riuscita: " + done.error().subject;
+    std::fprintf(stderr, "%s\n", words.c_str());
+    if (inWindow) {
+        vorbano::applyStyle(*qApp);
+        vorbano::QtDesktop().tell({words, "Vorbano", vorbano::Icon::error});
+    }
+    return 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const bool inWindow = argc > 1 && std::strcmp(argv[1], "--window") == 0;
+    const std::string root = vorbano::installationRoot().string();
+    if (inWindow) {
+        const QApplication application(argc, argv);
+        return lay(root, true);
+    }
+    const QCoreApplication application(argc, argv);
+    return lay(root, false);
 }

@@ -1,4 +1,5 @@
-# Sourced by ./run and ./test: installs the Debian 12 packages that are missing, and nothing else.
+# Sourced by ./run, ./test and the tools: installs the Debian 12 packages that are missing, and nothing else.
+# `also` names packages that only the one tool needs.
 
 packages=(
   git cmake ninja-build g++
@@ -6,6 +7,7 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev libsqlite3-dev
   clang-format clang-tidy
   fonts-dejavu-core fonts-liberation2 poppler-utils
+  ${also[@]+"${also[@]}"}
 )
 
 missing=()

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QFont>
+#include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPalette>
@@ -72,6 +73,7 @@ void applyStyle(QApplication& application) {
     speakItalian();
     QApplication::setStyle(makeHouseStyle());
     QApplication::setPalette(palette());
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/windows/vorbano.png")));
     QFont font = QApplication::font();
     font.setPointSizeF(std::max(pointSize, font.pointSizeF()));
     QApplication::setFont(font);
