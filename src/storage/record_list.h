@@ -40,7 +40,11 @@ template <class Record>
 template <class Record>
 [[nodiscard]] Result<> replaceAll(FileSystem& files, std::string_view path, std::string_view companion,
                                   const std::vector<Record>& records) {
-    if (auto filled = fillCompanion(files, companion, records); !filled) return filled;
+    if (auto filled = fillCompanion(files, companion, records); !filled) {
+        // On a full disk the half companion would take the room that the next command needs.
+        files.remove(companion).ignore();
+        return filled;
+    }
     return files.replace(companion, path);
 }
 
