@@ -16,6 +16,7 @@ frmVersamenti::frmVersamenti(const Workplace& workplace) : desk_(workplace) {
         field->locked = true;
         field->visible = false;
     }
+    Label21.visible = false;
     hangProcedures();
     Combo1.items = TipoElezioni(desk_.files);
     followState();
@@ -31,6 +32,7 @@ void frmVersamenti::hangProcedures() {
         {&cmdRiavvia.clicked, &This::cmdRiavvia_Click},
         {&cmdInserire.clicked, &This::cmdInserire_Click},
         {&cmdVisualizza.clicked, &This::cmdVisualizza_Click},
+        {&cmdConguaglio.clicked, &This::cmdConguaglio_Click},
         {&Check6.clicked, &This::Check6_Click},
         {&Check7.clicked, &This::Check7_Click},
         {&Check8.clicked, &This::Check8_Click},
@@ -86,27 +88,37 @@ void frmVersamenti::cmdAnteprima_Click() {
         form.focus(Combo1);
         return;
     }
+    search();
+}
+
+bool frmVersamenti::search() {
     const auto employees = searchElection(desk_.files, election());
     if (!employees) {
         const Failure kind = employees.error().kind;
-        if (kind == Failure::missingFolder || kind == Failure::badName) return tellMissing();
-        wellDone(employees.error(), desk_.desktop);
-        return;
+        if (kind != Failure::missingFolder && kind != Failure::badName)
+            return wellDone(employees.error(), desk_.desktop);
+        tellMissing();
+        return false;
     }
-    if (*employees == 0) return tellMissing();
+    if (*employees == 0) {
+        tellMissing();
+        return false;
+    }
+    const auto adjustable = hasAdjustment(desk_.files, election());
+    if (!adjustable) return wellDone(adjustable.error(), desk_.desktop);
     const auto ente = onlyRecord<NameRecord>(desk_.files, enteFile);
+    if (!ente) return wellDone(ente.error(), desk_.desktop);
     const auto due = readPaymentsDue(desk_.files, election());
-    if (!ente || !due) {
-        wellDone(ente ? due.error() : ente.error(), desk_.desktop);
-        return;
-    }
-    if (!wellDone(Kontrol(desk_.files, election(), due->amounts), desk_.desktop) || !readAll()) return;
+    if (!due) return wellDone(due.error(), desk_.desktop);
+    if (!wellDone(Kontrol(desk_.files, election(), due->amounts), desk_.desktop) || !readAll()) return false;
+    adjustable_ = *adjustable;
     lblComune.text = *ente ? (*ente)->name.trimmed() : std::string();
     // As the caption of the reports: a date in January has none, and what was there stays.
     if (const auto caption = dateCaption(txtDataEle.text())) lbldata.text = *caption;
     showDue(*due);
     go(Phase::searched);
     form.focus(cmdInserire);
+    return true;
 }
 
 void frmVersamenti::showDue(const PaymentsDue& due) {
@@ -124,13 +136,14 @@ PaymentAmounts frmVersamenti::amountsOnScreen() const {
 }
 
 bool frmVersamenti::readAll() {
-    auto documents = readDocuments(desk_.files, election());
+    auto documents = readDocuments(desk_.files, election(), onShow());
     if (!documents) return wellDone(documents.error(), desk_.desktop);
     documents_ = std::move(*documents);
     return true;
 }
 
 void frmVersamenti::cmdRiavvia_Click() {
+    adjust(false);
     for (const VoiceControls& voice : voices_) {
         voice.amount->text = std::string();
         if (voice.rate != nullptr) voice.rate->text = std::string();

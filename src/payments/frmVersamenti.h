@@ -20,8 +20,12 @@ namespace vorbano {
 /// changed, removed, and printed as a list. What can be used when follows from the phase of the work and from the boxes
 /// that are ticked, in one place (`followState`).
 ///
-/// Its procedures stand in files by theme: frmVersamenti.cpp (loading, search), _stato (what can be used when),
-/// _documento (the boxes of a document), _salva, _elenco (the panel of the stored documents), _stampe.
+/// `cmdConguaglio` turns the whole screen to the payments of the adjustment, with amounts and files of their own, and
+/// back. Nothing of the one is ever written while the other is on show.
+///
+/// Its procedures stand in files by theme: frmVersamenti.cpp (loading, search), _conguaglio (to the adjustment and
+/// back), _stato (what can be used when), _documento (the boxes of a document), _salva, _elenco (the panel of the
+/// stored documents), _stampe.
 struct frmVersamenti {
     Form form{"frmVersamenti", "Vorbano       Contributi e Ritenute"};
     MenuEntry mnuEsci{form, "mnuEsci", "Esci"};
@@ -33,6 +37,8 @@ struct frmVersamenti {
     Button cmdRiavvia{form, "cmdRiavvia", "&Annulla"};
     Button cmdInserire{form, "cmdInserire", "&Inserimento"};
     Button cmdVisualizza{form, "cmdVisualizza", "Visualizza"};
+    Button cmdConguaglio{form, "cmdConguaglio", "Conguaglio"};
+    Label Label21{form, "Label21", "IMPORTI RITENUTE CONGUAGLIO"};  ///< on show with the payments of the adjustment
 
     // The voices: box, rate, amount due, leave to type the amount.
     CheckBox Check1{form, "Check1", "Contributo Previdenziale a carico dipendente"};
@@ -107,6 +113,7 @@ struct frmVersamenti {
     void cmdRiavvia_Click();
     void cmdInserire_Click();
     void cmdVisualizza_Click();
+    void cmdConguaglio_Click();
     void Check6_Click();
     void Check7_Click();
     void Check8_Click();
@@ -160,10 +167,16 @@ struct frmVersamenti {
     void go(Phase phase);
 
     [[nodiscard]] Election election() const;
+    /// The payments on show. Everything that reads or writes them asks this.
+    [[nodiscard]] PaymentSet onShow() const;
+    void adjust(bool on);
+    /// Calls up the election; false when it cannot be, and then all stays as it was. What is wrong is told.
+    bool search();
+    bool showAdjustment();
     void tellMissing();
     void showDue(const PaymentsDue& due);
     [[nodiscard]] PaymentAmounts amountsOnScreen() const;
-    /// Reads Versum.vbn anew; tells when it cannot be read.
+    /// Reads the documents on show anew; tells when they cannot be read.
     bool readAll();
 
     void voiceTicked(std::size_t voice);
@@ -181,7 +194,7 @@ struct frmVersamenti {
     /// Tells what is missing and puts the cursor there; true when all is there.
     bool checked();
     [[nodiscard]] PaymentRecord documentOnScreen();
-    void fillDateOfMeirin(std::size_t voice, TextBox& field);
+    void fillStoredDate(std::size_t voice, TextBox& field);
 
     void showList();
     void vedo(const PaymentRecord& document);
@@ -189,6 +202,7 @@ struct frmVersamenti {
     bool anyDocument();
     void VedoVers(Destination destination);
     void VedoElenco(Destination destination, std::string_view inailWords);
+    void Anteprimac(Destination destination);
 
     Workplace desk_;
     std::array<VoiceControls, paymentVoiceCount> voices_{{
@@ -204,6 +218,7 @@ struct frmVersamenti {
     Phase phase_ = Phase::nothing;
     PaymentAmounts due_{};                           ///< as the files have them
     std::array<bool, paymentVoiceCount> offered_{};  ///< the amount may be typed
+    bool adjustable_ = false;                        ///< the election has an adjustment
     bool saved_ = false;                             ///< the document on the screen is stored as it stands
     std::vector<PaymentRecord> documents_;
     std::vector<DocumentLine> lines_;

@@ -76,23 +76,23 @@ void frmVersamenti::Check9_Click() {
     touched();
 }
 
-/// `VediInps`: the form of the INPS payment bears the date that is kept for it.
+/// `VediInps`, `VediInpsc`: the form of the INPS payment bears the date that is kept for it.
 void frmVersamenti::Check10_Click() {
     touched();
     if (phase_ == Phase::entry && Check10.checked() && Check7.checked())
-        fillDateOfMeirin(paymentVoiceOf("Inps"), txtDataf24);
+        fillStoredDate(paymentVoiceOf("Inps"), txtDataf24);
 }
 
 /// `vedinail`
 void frmVersamenti::Check12_Click() {
     touched();
-    if (phase_ == Phase::entry && Check12.checked()) fillDateOfMeirin(paymentVoiceOf("Inail"), txtDatainail);
+    if (phase_ == Phase::entry && Check12.checked()) fillStoredDate(paymentVoiceOf("Inail"), txtDatainail);
 }
 
 /// A date that the clerk has typed stays.
-void frmVersamenti::fillDateOfMeirin(std::size_t voice, TextBox& field) {
+void frmVersamenti::fillStoredDate(std::size_t voice, TextBox& field) {
     if (!trim(field.text()).empty()) return;
-    const auto date = paymentDate(desk_.files, election(), paymentVoices[voice]);
+    const auto date = paymentDate(desk_.files, election(), onShow(), paymentVoices[voice]);
     if (!date) {
         wellDone(date.error(), desk_.desktop);
         return;

@@ -93,7 +93,7 @@ void frmVersamenti::cmdElimina_Click() {
     if (!desk_.desktop.ask(
             {"Siete sicuri di voler eliminare il documento selezionato?", "Elimina Documento", Icon::question}))
         return;
-    if (!wellDone(removeDocument(desk_.files, election(), shown_), desk_.desktop)) return;
+    if (!wellDone(removeDocument(desk_.files, election(), onShow(), shown_), desk_.desktop)) return;
     desk_.desktop.tell({"Documento Eliminato", "Elimina", Icon::information});
     if (!readAll()) return;
     if (documents_.empty()) {

@@ -80,9 +80,9 @@ void frmVersamenti::cmdSalva_Click() {
     const PaymentVoice& voice = paymentVoices[*chosenVoice()];
     const bool change = phase_ == Phase::change;
     const int number = change ? wholeScan(Label15.text()) : 0;
-    if (!wellDone(storeDocument(desk_.files, election(), number, document), desk_.desktop)) return;
+    if (!wellDone(storeDocument(desk_.files, election(), onShow(), number, document), desk_.desktop)) return;
     if (voice.date != nullptr) {
-        wellDone(storePaymentDate(desk_.files, election(), voice, document.Data.trimmed()), desk_.desktop);
+        wellDone(storePaymentDate(desk_.files, election(), onShow(), voice, document.Data.trimmed()), desk_.desktop);
     }
     if (change) {
         documents_[static_cast<std::size_t>(number) - 1] = document;
@@ -108,7 +108,7 @@ void frmVersamenti::cmdSalvaII_Click() {
         return;
     }
     const PaymentAmounts amounts = amountsOnScreen();
-    if (!wellDone(storePaymentAmounts(desk_.files, election(), amounts), desk_.desktop)) return;
+    if (!wellDone(storePaymentAmounts(desk_.files, election(), onShow(), amounts), desk_.desktop)) return;
     due_ = amounts;
     CheckBox* next = nullptr;
     for (const VoiceControls& voice : voices_) {

@@ -1,6 +1,8 @@
-// The lists: what was entered, the whole list with what is due, the whole list straight to the printer.
+// The lists: what was entered, the whole list with what is due, the whole list straight to the printer; of the
+// adjustment what was entered and the whole list straight to the printer.
 
 #include "payments/frmVersamenti.h"
+#include "reports/conguaglio_versamenti.h"
 #include "reports/contributi.h"
 #include "reports/payment_rows.h"
 #include "screens/well_done.h"
@@ -29,7 +31,9 @@ void frmVersamenti::printList(Destination destination, std::string_view title) {
         return;
     }
     if (!anyDocument()) return;
-    if (Check16.checked()) {
+    if (onShow() == PaymentSet::adjustment) {
+        Anteprimac(destination);
+    } else if (Check16.checked()) {
         VedoVers(destination);
     } else {
         VedoElenco(destination, inailWithin);
@@ -52,6 +56,12 @@ void frmVersamenti::VedoVers(Destination destination) {
              desk_.desktop);
 }
 
+/// The adjustment has one list, whichever is ticked.
+void frmVersamenti::Anteprimac(Destination destination) {
+    const Heading heading{.Elezione = lblElezione.text(), .Data = lbldata.text(), .Databall = std::nullopt};
+    wellDone(printContributiConguaglio(desk_, election(), heading, destination), desk_.desktop);
+}
+
 void frmVersamenti::VedoElenco(Destination destination, std::string_view inailWords) {
     const PaymentCaptions captions{.Comune = lblComune.text(), .Elezioni = lblElezione.text(), .dataE = lbldata.text()};
     const PaymentAmounts amounts = amountsOnScreen();
@@ -62,7 +72,8 @@ void frmVersamenti::VedoElenco(Destination destination, std::string_view inailWo
     }
     DocumentRun list;
     list.fill = [&]() -> Result<> {
-        const auto rows = appendPayments(desk_.files, desk_.staging, election(), captions, inailWords);
+        const auto rows =
+            appendPayments(desk_.files, desk_.staging, election(), captions, inailWords, documentsFile(onShow()));
         if (!rows) return rows.error();
         return appendClosingRows(desk_.staging, lines);
     };

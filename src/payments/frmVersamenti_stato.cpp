@@ -29,6 +29,7 @@ void frmVersamenti::followState() {
     cmdAnteprima.enabled = choosing;
     for (Button* command : {&cmdRiavvia, &cmdInserire, &cmdVisualizza, &cmdVideo, &cmdStampa})
         command->enabled = searched;
+    cmdConguaglio.enabled = searched && adjustable_;
     cmdSoloElenco.enabled = searched || phase_ == Phase::list || phase_ == Phase::shown;
     Check15.enabled = searched;
     Check16.enabled = searched && !documents_.empty();

@@ -1,5 +1,9 @@
-// The disk fails once or stops for good at every operation: Versum.vbn is old or new, never half; what failed is told;
-// the same command once more ends what was begun.
+// The disk fails once or stops for good at every operation: the documents are old or new, never half; what failed is
+// told; the same command once more ends what was begun. So it is with the payments of the liquidation and with those of
+// the adjustment, and whatever happens to the ones, the others stay.
+
+#include <functional>
+#include <tuple>
 
 #include "storage/failing_file_system.h"
 #include "versamenti_desk.h"
@@ -30,8 +34,16 @@ struct Stage {
     OpenedScreens screens;
     frmVersamenti screen{Workplace{failing, desk, staging, printing, screens, places}};
 
-    explicit Stage(const std::vector<LaidDocument>& documents) {
-        layPayments(disk, documents);
+    PaymentSet set;
+
+    explicit Stage(const std::vector<LaidDocument>& documents, PaymentSet payments = PaymentSet::liquidation)
+        : set(payments) {
+        if (set == PaymentSet::adjustment) {
+            layPayments(disk, {mandate1});
+            layAdjustment(disk, documents);
+        } else {
+            layPayments(disk, documents);
+        }
         // The screen was made before its disk was laid.
         screen.Combo1.items = Lines{"Europee"};
         desk.open(screen.form);
@@ -49,7 +61,24 @@ struct Stage {
     void type(Control& control, std::string_view words) {
         EXPECT_EQ(Operator(screen.form).type(control, words), Refusal::none) << control.name();
     }
-    std::string stored(std::string_view name = "Versum.vbn") { return contentOf(disk, paymentPath(name)); }
+    /// Calls up the payments of the set.
+    void search() {
+        click(screen.cmdAnteprima);
+        if (set == PaymentSet::adjustment) click(screen.cmdConguaglio);
+    }
+    std::string stored(std::string_view name) { return contentOf(disk, paymentPath(name)); }
+    std::string storedDocuments() { return stored(documentsFile(set)); }
+    /// The record with the amounts that are typed.
+    std::string storedAmounts() { return stored(set == PaymentSet::adjustment ? meirincFile : meirinFile); }
+    /// The payments that are not on show are as they were laid.
+    void expectOthersUntouched() {
+        if (set == PaymentSet::liquidation) {
+            EXPECT_EQ(stored(versumcFile), noFile);
+            return;
+        }
+        EXPECT_EQ(toHex(stored(versumFile)), toHex(laidDocuments({mandate1})));
+        EXPECT_EQ(toHex(stored(meirinFile)), toHex(laidMeirin(123456, 7890, 0)));
+    }
 };
 
 LaidDocument of(LaidDocument document, int cents) {
@@ -60,128 +89,229 @@ const std::vector<LaidDocument> differing = {of(mandate1, 1), of(mandate2, 2), o
 const std::vector<LaidDocument> inLine = {mandate1, mandate2, irpefForm, inpsForm};
 
 enum class Fault { once, stop };
-class VersamentiGuasti : public ::testing::TestWithParam<Fault> {
+class VersamentiGuasti : public ::testing::TestWithParam<std::tuple<Fault, PaymentSet>> {
   protected:
+    using Step = std::function<void(Stage&)>;
+
+    static PaymentSet set() { return std::get<PaymentSet>(GetParam()); }
+    static bool adjusting() { return set() == PaymentSet::adjustment; }
+    static LaidDocument first() { return adjusting() ? adjusted1 : mandate1; }
+    static LaidDocument second() { return adjusting() ? adjusted2 : mandate2; }
+    static LaidDocument inail() { return adjusting() ? adjustedInail : inailPaid; }
+    static std::string amountsWith(int irpef, std::string_view inailOn = "        ") {
+        return adjusting() ? laidMeirinc(irpef, 650, 410, inailOn) : laidMeirin(irpef, 7890, 0, inailOn);
+    }
+    static int irpef() { return adjusting() ? 32100 : 123456; }
+
     static void strike(Stage& stage, int n) {
-        GetParam() == Fault::once ? stage.failing.failOnce(n) : stage.failing.stopAt(n);
+        std::get<Fault>(GetParam()) == Fault::once ? stage.failing.failOnce(n) : stage.failing.stopAt(n);
+    }
+    /// On a stage with these documents acts with a fault at each operation of the act in turn; there must be at least
+    /// `atLeast` of them.
+    static void atEachOperation(int atLeast, const std::vector<LaidDocument>& documents, const Step& prepare,
+                                const Step& act, const Step& check) {
+        const auto prepared = [&](Stage& stage) {
+            prepare(stage);
+            stage.desk.told.clear();
+        };
+        int all = 0;
+        {
+            Stage stage(documents, set());
+            prepared(stage);
+            stage.failing.failOnce(0);
+            act(stage);
+            all = stage.failing.operations();
+        }
+        ASSERT_GE(all, atLeast);
+        for (int n = 1; n <= all; ++n) {
+            SCOPED_TRACE(n);
+            Stage stage(documents, set());
+            prepared(stage);
+            strike(stage, n);
+            act(stage);
+            stage.expectOthersUntouched();
+            check(stage);
+        }
     }
 };
-INSTANTIATE_TEST_SUITE_P(Both, VersamentiGuasti, ::testing::Values(Fault::once, Fault::stop));
+using ::testing::Combine;
+using ::testing::Values;
+INSTANTIATE_TEST_SUITE_P(Both, VersamentiGuasti,
+                         Combine(Values(Fault::once, Fault::stop),
+                                 Values(PaymentSet::liquidation, PaymentSet::adjustment)));
 
-TEST_P(VersamentiGuasti, TheSearchLeavesTheDocumentsOldOrNew) {
-    int all = 0;
-    {
-        Stage stage(differing);
-        stage.failing.failOnce(0);
-        stage.click(stage.screen.cmdAnteprima);
-        EXPECT_EQ(toHex(stage.stored()), toHex(laidDocuments(inLine)));
-        all = stage.failing.operations();
-    }
-    ASSERT_GE(all, 10);
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
-        Stage stage(differing);
-        strike(stage, n);
-        stage.click(stage.screen.cmdAnteprima);
-        EXPECT_THAT(stage.stored(), AnyOf(laidDocuments(differing), laidDocuments(inLine)));
-        if (stage.screen.cmdInserire.enabled()) continue;
-        EXPECT_THAT(stage.desk.told, Not(IsEmpty()));
-        stage.failing.failOnce(0);
-        stage.click(stage.screen.cmdAnteprima);
-        EXPECT_EQ(toHex(stage.stored()), toHex(laidDocuments(inLine)));
-        EXPECT_EQ(stage.stored("Reversum.vbn"), noFile);
-        EXPECT_TRUE(stage.screen.cmdInserire.enabled());
-    }
+class RicercaGuasti : public VersamentiGuasti {};
+INSTANTIATE_TEST_SUITE_P(Both, RicercaGuasti,
+                         Combine(Values(Fault::once, Fault::stop), Values(PaymentSet::liquidation)));
+
+TEST_P(RicercaGuasti, TheSearchLeavesTheDocumentsOldOrNew) {
+    const auto search = [](Stage& stage) { stage.click(stage.screen.cmdAnteprima); };
+    atEachOperation(
+        10, differing, [](Stage&) {}, search,
+        [&](Stage& stage) {
+            EXPECT_THAT(stage.storedDocuments(), AnyOf(laidDocuments(differing), laidDocuments(inLine)));
+            if (stage.screen.cmdInserire.enabled()) return;
+            EXPECT_THAT(stage.desk.told, Not(IsEmpty()));
+            stage.failing.failOnce(0);
+            search(stage);
+            EXPECT_EQ(toHex(stage.storedDocuments()), toHex(laidDocuments(inLine)));
+            EXPECT_EQ(stage.stored("Reversum.vbn"), noFile);
+            EXPECT_TRUE(stage.screen.cmdInserire.enabled());
+        });
+}
+
+class ConguaglioGuasti : public VersamentiGuasti {};
+INSTANTIATE_TEST_SUITE_P(Both, ConguaglioGuasti,
+                         Combine(Values(Fault::once, Fault::stop), Values(PaymentSet::adjustment)));
+
+/// The adjustment is on show from its label to its last amount, or the liquidation is.
+void expectOnShow(Stage& stage, bool adjustment) {
+    EXPECT_EQ(stage.screen.Label21.visible(), adjustment);
+    EXPECT_EQ(stage.screen.cmdConguaglio.text(), adjustment ? "Annulla Conguaglio" : "Conguaglio");
+    EXPECT_EQ(stage.screen.txtContrDip.text(), adjustment ? "4,44" : "19,03");
+    EXPECT_EQ(stage.screen.Label4.text(), adjustment ? "8,9%" : "8,85%");
+    EXPECT_EQ(stage.screen.txtIrpef.text(), adjustment ? "321,00" : "1.234,56");
+    EXPECT_TRUE(stage.screen.cmdInserire.isOperable());
+}
+
+TEST_P(ConguaglioGuasti, TheWayInLeavesTheOneOrTheOtherOnShow) {
+    atEachOperation(
+        6, {adjusted1}, [](Stage& stage) { stage.click(stage.screen.cmdAnteprima); },
+        [](Stage& stage) { stage.click(stage.screen.cmdConguaglio); },
+        [](Stage& stage) {
+            EXPECT_THAT(stage.desk.told, Contains("Errore"));
+            expectOnShow(stage, false);
+            stage.failing.failOnce(0);
+            stage.click(stage.screen.cmdConguaglio);
+            expectOnShow(stage, true);
+            EXPECT_EQ(toHex(stage.storedDocuments()), toHex(laidDocuments({adjusted1})));
+        });
+}
+
+TEST_P(ConguaglioGuasti, TheWayBackLeavesTheOneOrTheOtherOnShow) {
+    atEachOperation(
+        10, {adjusted1}, [](Stage& stage) { stage.search(); },
+        [](Stage& stage) { stage.click(stage.screen.cmdConguaglio); },
+        [](Stage& stage) {
+            const bool stayed = stage.screen.Label21.visible();
+            expectOnShow(stage, stayed);
+            if (!stayed) return;
+            EXPECT_THAT(stage.desk.told, Not(IsEmpty()));
+            stage.failing.failOnce(0);
+            stage.click(stage.screen.cmdConguaglio);
+            expectOnShow(stage, false);
+            EXPECT_EQ(toHex(stage.storedDocuments()), toHex(laidDocuments({adjusted1})));
+        });
 }
 
 TEST_P(VersamentiGuasti, TheRemovalLeavesTheDocumentsOldOrNew) {
-    const std::vector<LaidDocument> before = {mandate1, mandate2, mandate1, irpefForm};
-    const std::vector<LaidDocument> after = {mandate2, irpefForm};
-    const auto prepare = [](Stage& stage) {
-        stage.click(stage.screen.cmdAnteprima);
-        stage.click(stage.screen.cmdVisualizza);
-        EXPECT_EQ(Operator(stage.screen.form).chooseIndex(stage.screen.List1, 2), Refusal::none);
-        EXPECT_EQ(stage.screen.Label15.text(), "1");
-        stage.desk.told.clear();
-    };
-    int all = 0;
-    {
-        Stage stage(before);
-        prepare(stage);
-        stage.failing.failOnce(0);
-        stage.click(stage.screen.cmdElimina);
-        EXPECT_EQ(toHex(stage.stored()), toHex(laidDocuments(after)));
-        all = stage.failing.operations();
-    }
-    ASSERT_GE(all, 6);
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
-        Stage stage(before);
-        prepare(stage);
-        strike(stage, n);
-        stage.click(stage.screen.cmdElimina);
-        EXPECT_THAT(stage.stored(), AnyOf(laidDocuments(before), laidDocuments(after)));
-        EXPECT_THAT(stage.desk.told, Contains("Errore"));
-        stage.failing.failOnce(0);
-        stage.click(stage.screen.cmdElimina);
-        EXPECT_EQ(toHex(stage.stored()), toHex(laidDocuments(after)));
-        EXPECT_EQ(stage.stored("Reversum.vbn"), noFile);
-    }
+    const LaidDocument irpef = adjusting() ? adjustedIrpef : irpefForm;
+    const std::string before = laidDocuments({first(), second(), first(), irpef});
+    const std::string after = laidDocuments({second(), irpef});
+    atEachOperation(
+        6, {first(), second(), first(), irpef},
+        [](Stage& stage) {
+            stage.search();
+            stage.click(stage.screen.cmdVisualizza);
+            EXPECT_EQ(Operator(stage.screen.form).chooseIndex(stage.screen.List1, 2), Refusal::none);
+            EXPECT_EQ(stage.screen.Label15.text(), "1");
+        },
+        [](Stage& stage) { stage.click(stage.screen.cmdElimina); },
+        [&](Stage& stage) {
+            EXPECT_THAT(stage.storedDocuments(), AnyOf(before, after));
+            EXPECT_THAT(stage.desk.told, Contains("Errore"));
+            stage.failing.failOnce(0);
+            stage.click(stage.screen.cmdElimina);
+            EXPECT_EQ(toHex(stage.storedDocuments()), toHex(after));
+            EXPECT_EQ(stage.stored("Reversum.vbn"), noFile);
+            stage.expectOthersUntouched();
+        });
 }
 
 TEST_P(VersamentiGuasti, ADocumentThatIsNotStoredIsToldAndCanBeStoredAgain) {
-    const auto prepare = [](Stage& stage) {
-        stage.click(stage.screen.cmdAnteprima);
-        stage.click(stage.screen.cmdInserire);
-        stage.tick(stage.screen.Check1);
-        stage.tick(stage.screen.Check6);
-        stage.tick(stage.screen.Check9);
-        stage.type(stage.screen.txtMnumero, "102");
-        stage.type(stage.screen.txtMdata, "02/07/24");
-        stage.desk.told.clear();
-    };
-    int all = 0;
-    {
-        Stage stage({mandate1});
-        prepare(stage);
-        stage.failing.failOnce(0);
-        stage.click(stage.screen.cmdSalva);
-        all = stage.failing.operations();
-    }
-    ASSERT_GE(all, 3);
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
-        Stage stage({mandate1});
-        prepare(stage);
-        strike(stage, n);
-        stage.click(stage.screen.cmdSalva);
-        EXPECT_THAT(stage.desk.told, Contains("Errore"));
-        EXPECT_THAT(stage.stored(), AnyOf(laidDocuments({mandate1}), laidDocuments({mandate1, mandate2})));
-        EXPECT_TRUE(stage.screen.cmdSalva.isOperable());
-        EXPECT_EQ(stage.screen.txtMnumero.text(), "102");
-    }
+    atEachOperation(
+        3, {first()},
+        [](Stage& stage) {
+            stage.search();
+            stage.click(stage.screen.cmdInserire);
+            stage.tick(stage.screen.Check1);
+            stage.tick(stage.screen.Check6);
+            stage.tick(stage.screen.Check9);
+            stage.type(stage.screen.txtMnumero, std::to_string(second().number));
+            stage.type(stage.screen.txtMdata, second().date);
+        },
+        [](Stage& stage) { stage.click(stage.screen.cmdSalva); },
+        [](Stage& stage) {
+            EXPECT_THAT(stage.desk.told, Contains("Errore"));
+            EXPECT_THAT(stage.storedDocuments(), AnyOf(laidDocuments({first()}), laidDocuments({first(), second()})));
+            EXPECT_TRUE(stage.screen.cmdSalva.isOperable());
+            EXPECT_EQ(stage.screen.txtMnumero.text(), std::to_string(second().number));
+        });
+}
+
+TEST_P(VersamentiGuasti, ADateThatIsNotKeptBesideItsAmountIsTold) {
+    const std::string_view date = inail().date;
+    atEachOperation(
+        6, {first()},
+        [&](Stage& stage) {
+            stage.search();
+            stage.click(stage.screen.cmdInserire);
+            stage.tick(stage.screen.Check11);
+            stage.tick(stage.screen.Check12);
+            stage.type(stage.screen.txtDatainail, date);
+        },
+        [](Stage& stage) { stage.click(stage.screen.cmdSalva); },
+        [&](Stage& stage) {
+            EXPECT_THAT(stage.desk.told, Contains("Errore"));
+            EXPECT_THAT(stage.storedDocuments(), AnyOf(laidDocuments({first()}), laidDocuments({first(), inail()})));
+            EXPECT_THAT(stage.storedAmounts(), AnyOf(amountsWith(irpef()), amountsWith(irpef(), date)));
+        });
+}
+
+TEST_P(VersamentiGuasti, AChangeIsStoredInItsPlaceOrTold) {
+    LaidDocument changed = second();
+    changed.number = 77;
+    const std::string before = laidDocuments({first(), second()});
+    const std::string after = laidDocuments({first(), changed});
+    atEachOperation(
+        2, {first(), second()},
+        [](Stage& stage) {
+            stage.search();
+            stage.click(stage.screen.cmdVisualizza);
+            EXPECT_EQ(Operator(stage.screen.form).chooseIndex(stage.screen.List1, 3), Refusal::none);
+            stage.click(stage.screen.cmdModifica);
+            stage.type(stage.screen.txtMnumero, "77");
+        },
+        [](Stage& stage) { stage.click(stage.screen.cmdSalva); },
+        [&](Stage& stage) {
+            EXPECT_THAT(stage.desk.told, Contains("Errore"));
+            EXPECT_THAT(stage.storedDocuments(), AnyOf(before, after));
+            stage.failing.failOnce(0);
+            stage.click(stage.screen.cmdSalva);
+            EXPECT_EQ(toHex(stage.storedDocuments()), toHex(after));
+        });
 }
 
 TEST_P(VersamentiGuasti, AmountsThatAreNotStoredStayOpen) {
-    const auto prepare = [](Stage& stage) {
-        stage.click(stage.screen.cmdAnteprima);
-        stage.click(stage.screen.cmdInserire);
-        stage.tick(stage.screen.Check5);
-        stage.tick(stage.screen.Check13);
-        stage.type(stage.screen.txtIrpef, "99,90");
-        stage.desk.told.clear();
-    };
-    for (int n = 1; n <= 4; ++n) {
-        SCOPED_TRACE(n);
-        Stage stage({mandate1});
-        prepare(stage);
-        strike(stage, n);
-        stage.click(stage.screen.cmdSalvaII);
-        EXPECT_THAT(stage.desk.told, Contains("Errore"));
-        EXPECT_TRUE(stage.screen.txtIrpef.isOperable());
-        EXPECT_EQ(stage.screen.txtIrpef.text(), "99,90");
-        EXPECT_THAT(stage.stored("Meirin.vbn"), AnyOf(laidMeirin(123456, 7890, 0), laidMeirin(9990, 7890, 0)));
-    }
+    atEachOperation(
+        4, {first()},
+        [](Stage& stage) {
+            stage.search();
+            stage.click(stage.screen.cmdInserire);
+            stage.tick(stage.screen.Check5);
+            stage.tick(stage.screen.Check13);
+            stage.type(stage.screen.txtIrpef, "99,90");
+        },
+        [](Stage& stage) { stage.click(stage.screen.cmdSalvaII); },
+        [](Stage& stage) {
+            EXPECT_THAT(stage.desk.told, Contains("Errore"));
+            EXPECT_TRUE(stage.screen.txtIrpef.isOperable());
+            EXPECT_EQ(stage.screen.txtIrpef.text(), "99,90");
+            EXPECT_THAT(stage.storedAmounts(), AnyOf(amountsWith(irpef()), amountsWith(9990)));
+            stage.failing.failOnce(0);
+            stage.click(stage.screen.cmdSalvaII);
+            EXPECT_EQ(toHex(stage.storedAmounts()), toHex(amountsWith(9990)));
+        });
 }
 
 }  // namespace

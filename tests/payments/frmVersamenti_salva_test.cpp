@@ -1,5 +1,8 @@
 // What is stored, case by case, and what is refused.
 
+#include <array>
+#include <ostream>
+
 #include "versamenti_desk.h"
 
 namespace vorbano::test {
@@ -11,41 +14,60 @@ struct Save {
     const char* document;  ///< Check6, Check7, Check12
     const char* copies;    ///< Check8, Check9, or none
     LaidDocument stored;
+    PaymentSet set = PaymentSet::liquidation;
 };
-void PrintTo(const Save& one, std::ostream* out) { *out << one.voice << " " << one.document << " " << one.copies; }
+void PrintTo(const Save& one, std::ostream* out) {
+    *out << one.voice << " " << one.document << " " << one.copies << " " << documentsFile(one.set);
+}
 
-/// The four voices with a rate and IRPEF, each by mandate and by form, in both ways of copies.
-std::vector<Save> allSaves() {
-    struct Voice {
-        const char* box;
-        const char* key;
-        const char* percent;
-        int cents;
-    };
-    const Voice voices[] = {{"Check1", "Coprdi", "8,85%", 1903},
-                            {"Check2", "Cofocrdi", "0,3%", 75},
-                            {"Check3", "Copren", "24,2%", 15015},
-                            {"Check4", "Coirap", "8,5%", 6007},
-                            {"Check5", "Irpef", "", 123456}};
+struct Voice {
+    const char* box;
+    const char* key;
+    const char* percent;
+    int cents;
+};
+/// The four voices with a rate, then IRPEF, INAIL, INPS.
+using Voices = std::array<Voice, 7>;
+constexpr Voices ofLiquidation = {{{"Check1", "Coprdi", "8,85%", 1903},
+                                   {"Check2", "Cofocrdi", "0,3%", 75},
+                                   {"Check3", "Copren", "24,2%", 15015},
+                                   {"Check4", "Coirap", "8,5%", 6007},
+                                   {"Check5", "Irpef", "", 123456},
+                                   {"Check11", "Inail", "", 7890},
+                                   {"Check17", "Inps", "", 4500}}};
+constexpr Voices ofAdjustment = {{{"Check1", "Coprdi", "8,9%", 444},
+                                  {"Check2", "Cofocrdi", "0,4%", 15},
+                                  {"Check3", "Copren", "23,9%", 1616},
+                                  {"Check4", "Coirap", "8,6%", 606},
+                                  {"Check5", "Irpef", "", 32100},
+                                  {"Check11", "Inail", "", 650},
+                                  {"Check17", "Inps", "", 410}}};
+
+/// By mandate and by form, in both ways of copies; INAIL by its date, INPS by form.
+std::vector<Save> allSaves(PaymentSet set = PaymentSet::liquidation) {
     std::vector<Save> saves;
-    for (const Voice& voice : voices) {
-        const bool irap = std::string_view(voice.key) == "Coirap";
+    for (const Voice& voice : set == PaymentSet::adjustment ? ofAdjustment : ofLiquidation) {
+        const std::string_view key = voice.key;
         const auto add = [&](const char* document, const char* copies, std::string_view text) {
             const bool mandate = std::string_view(document) == "Check6";
             saves.push_back({voice.box,
                              document,
                              copies,
-                             {voice.key, mandate ? "Mandato di pagamento" : "Mod. F24", voice.percent, voice.cents,
-                              mandate ? 70001 : 0, mandate ? "03-07-24" : "16-07-24", text}});
+                             {key, mandate ? "Mandato di pagamento" : "Mod. F24", voice.percent, voice.cents,
+                              mandate ? 70001 : 0, mandate ? "03-07-24" : "16-07-24", text},
+                             set});
         };
-        add("Check6", "Check8", "in originale e copia autenticata");
-        add("Check6", "Check9", irap ? "in duplice copia autentica" : "in duplice copia autenticata");
+        if (key == "Inail") {
+            saves.push_back({voice.box, "Check12", "", {key, "", "", voice.cents, 0, "20-08-24", ""}, set});
+            continue;
+        }
+        if (key != "Inps") {
+            add("Check6", "Check8", "in originale e copia autenticata");
+            add("Check6", "Check9", key == "Coirap" ? "in duplice copia autentica" : "in duplice copia autenticata");
+        }
         add("Check7", "Check8", "in originale e copia autenticata");
         add("Check7", "Check9", "in duplice copia autenticata");
     }
-    saves.push_back({"Check11", "Check12", "", {"Inail", "", "", 7890, 0, "20-08-24", ""}});
-    saves.push_back({"Check17", "Check7", "Check8", {"Inps", "Mod. F24", "", 4500, 0, "16-07-24", inOriginal}});
-    saves.push_back({"Check17", "Check7", "Check9", {"Inps", "Mod. F24", "", 4500, 0, "16-07-24", inTwo}});
     return saves;
 }
 
@@ -57,6 +79,10 @@ class VersamentiSalva : public VersamentiTest {
         open();
         identify();
         click("cmdAnteprima");
+        click("cmdInserire");
+    }
+    void beginAdjustment(const std::vector<LaidDocument>& documents) {
+        searchAdjustment(documents);
         click("cmdInserire");
     }
     void fill(const Save& one) {
@@ -73,26 +99,44 @@ class VersamentiSalva : public VersamentiTest {
         }
         if (*one.copies != '\0') tick(one.copies);
     }
+    void save(const Save& one) {
+        fill(one);
+        EXPECT_FALSE(operable("cmdAggiungi"));
+        click("cmdSalva");
+        EXPECT_TRUE(operable("cmdAggiungi"));
+        EXPECT_TRUE(operable("cmdNuovo"));
+        EXPECT_FALSE(operable("cmdSalva")) << "it is stored";
+    }
 };
 
-class VersamentiSalvaOgni : public VersamentiSalva, public ::testing::WithParamInterface<Save> {};
-
-TEST_P(VersamentiSalvaOgni, IsAppendedByteByByte) {
-    begin({mandate1});
-    fill(GetParam());
-    EXPECT_FALSE(operable("cmdAggiungi"));
-    click("cmdSalva");
-    expectDocuments({mandate1, GetParam().stored});
-    EXPECT_TRUE(operable("cmdAggiungi"));
-    EXPECT_TRUE(operable("cmdNuovo"));
-    EXPECT_FALSE(operable("cmdSalva")) << "it is stored";
-    const std::string_view voice = GetParam().voice;
-    EXPECT_EQ(toHex(stored("Meirin.vbn")),
-              toHex(laidMeirin(123456, 7890, 4500, voice == "Check11" ? "20-08-24" : "        ",
-                               voice == "Check17" ? "16-07-24" : "        ")));
+/// The dates that are kept beside the amounts of INAIL and of INPS after a save.
+const char* inailDateAfter(const Save& one) {
+    return std::string_view(one.voice) == "Check11" ? "20-08-24" : "        ";
+}
+const char* inpsDateAfter(const Save& one) {
+    return std::string_view(one.voice) == "Check17" ? "16-07-24" : "        ";
 }
 
+class VersamentiSalvaOgni : public VersamentiSalva, public ::testing::WithParamInterface<Save> {};
+TEST_P(VersamentiSalvaOgni, IsAppendedByteByByte) {
+    begin({mandate1});
+    save(GetParam());
+    expectDocuments({mandate1, GetParam().stored});
+    EXPECT_EQ(toHex(stored("Meirin.vbn")),
+              toHex(laidMeirin(123456, 7890, 4500, inailDateAfter(GetParam()), inpsDateAfter(GetParam()))));
+}
 INSTANTIATE_TEST_SUITE_P(All, VersamentiSalvaOgni, ::testing::ValuesIn(allSaves()));
+
+class ConguaglioSalvaOgni : public VersamentiSalvaOgni {};
+TEST_P(ConguaglioSalvaOgni, IsAppendedByteByByteToTheDocumentsOfTheAdjustment) {
+    beginAdjustment({adjusted1});
+    save(GetParam());
+    expectDocuments({adjusted1, GetParam().stored}, versumcFile);
+    EXPECT_EQ(toHex(stored("Meirinc.vbn")),
+              toHex(laidMeirinc(32100, 650, 410, inailDateAfter(GetParam()), inpsDateAfter(GetParam()))));
+    expectLiquidationUntouched();
+}
+INSTANTIATE_TEST_SUITE_P(All, ConguaglioSalvaOgni, ::testing::ValuesIn(allSaves(PaymentSet::adjustment)));
 
 TEST_F(VersamentiSalva, TheFirstDocumentIsRecordOne) {
     begin();

@@ -8,6 +8,20 @@ namespace {
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
+using ClosingRows = std::array<std::array<std::string_view, 3>, 6>;
+constexpr ClosingRows ofLiquidation = {{{"Coprdi", "8,85% ", "19,03"},
+                                        {"Cofocrdi", "0,3% ", "0,75"},
+                                        {"Copren", "24,2% ", "150,15"},
+                                        {"Coirap", "8,5% ", "60,07"},
+                                        {"Irpef", "-", "1.234,56"},
+                                        {"Inail", "-", "78,90"}}};
+constexpr ClosingRows ofAdjustment = {{{"Coprdi", "8,9% ", "4,44"},
+                                       {"Cofocrdi", "0,4% ", "0,15"},
+                                       {"Copren", "23,9% ", "16,16"},
+                                       {"Coirap", "8,6% ", "6,06"},
+                                       {"Irpef", "-", "321,00"},
+                                       {"Inail", "-", "6,50"}}};
+
 class VersamentiStampe : public VersamentiTest {
   protected:
     void expectRow(int row, const std::vector<std::pair<std::string_view, std::string_view>>& cells) {
@@ -22,14 +36,8 @@ class VersamentiStampe : public VersamentiTest {
         printing.jobs.clear();
     }
     /// The closing rows from row `first` on.
-    void expectClosingRows(std::size_t first) {
+    void expectClosingRows(std::size_t first, const ClosingRows& rows = ofLiquidation) {
         ASSERT_EQ(full["Tabella11"].size(), first + 5);
-        const std::array<std::array<std::string_view, 3>, 6> rows = {{{"Coprdi", "8,85% ", "19,03"},
-                                                                      {"Cofocrdi", "0,3% ", "0,75"},
-                                                                      {"Copren", "24,2% ", "150,15"},
-                                                                      {"Coirap", "8,5% ", "60,07"},
-                                                                      {"Irpef", "-", "1.234,56"},
-                                                                      {"Inail", "-", "78,90"}}};
         for (std::size_t at = 0; at < rows.size(); ++at) {
             const Row& row = full["Tabella11"][first - 1 + at];
             EXPECT_EQ(*row.find("Mother"), Value(std::string(rows[at][0])));
@@ -154,6 +162,82 @@ TEST_F(VersamentiStampe, SurplusRowsOfAnInterruptedDocumentGoToo) {
     click("cmdStampa");
     EXPECT_THAT(full["Tabella3"], SizeIs(3));
     expectJob("Vers.rpt", Destination::printer);
+}
+
+TEST_F(VersamentiStampe, OfTheAdjustmentAListMustBeChosenToo) {
+    searchAdjustment({adjusted1});
+    box("Anteprima Elenco", "Selezionare il tipo di elenco da stampare");
+    click("cmdVideo");
+    box("Stampa Elenco", "Selezionare il tipo di elenco da stampare");
+    click("cmdStampa");
+    EXPECT_THAT(printing.jobs, IsEmpty());
+}
+
+TEST_F(VersamentiStampe, WithoutDocumentsOfTheAdjustmentNoListOfItIsPrinted) {
+    searchAdjustment({}, {mandate1});
+    tick("Check15");
+    for (const char* command : {"cmdVideo", "cmdStampa", "cmdSoloElenco"}) {
+        box("Versamenti", "Per questo tipo di elezione non sono stati inseriti dati");
+        click(command);
+    }
+    EXPECT_THAT(printing.jobs, IsEmpty());
+}
+
+TEST_F(VersamentiStampe, TheAdjustmentHasOneListWithoutClosingRowsWhicheverIsTicked) {
+    searchAdjustment({adjusted2, adjustedInail, adjustedInps}, {mandate1});
+    const std::pair<const char*, Destination> commands[] = {{"cmdVideo", Destination::preview},
+                                                            {"cmdStampa", Destination::printer}};
+    for (const char* list : {"Check15", "Check16"}) {
+        tick(list);
+        for (const auto& [command, destination] : commands) {
+            SCOPED_TRACE(std::string(list) + command);
+            click(command);
+            EXPECT_THAT(full["Tabella11"], SizeIs(3));
+            expectRow(1, {{"Comune", "Pratofiorito"},
+                          {"Elezioni", "Europee"},
+                          {"dataE", "del 9 Giugno 2024"},
+                          {"Mother", "Coprdi"},
+                          {"Son", "Mandato di pagamento"},
+                          {"Percent", "8,9%"},
+                          {"Importo", "4,44"},
+                          {"Numero", "202"},
+                          {"Data", "02-10-24"},
+                          {"Sonocosi", "in duplice copia autenticata"}});
+            expectRow(2, {{"Mother", "Inail"}, {"Importo", "6,50"}, {"Data", "16-11-24"}});
+            // Nothing trims the cell: the blank at the end is the office's.
+            EXPECT_EQ(*full["Tabella11"][1].find("Son"),
+                      Value(std::string("data entro la quale sarà effetuato il versamento ")));
+            expectRow(3, {{"Mother", "Inps"}, {"Son", "Mod. F24"}, {"Importo", "4,10"}});
+            EXPECT_THAT(full["Tabella5"], SizeIs(1));
+            EXPECT_EQ(cellOf("Tabella5", 1, "Comune"), "Pratofiorito");
+            EXPECT_EQ(cellOf("Tabella5", 1, "Elezione"), "Europee");
+            EXPECT_EQ(cellOf("Tabella5", 1, "Data"), "del 9 Giugno 2024");
+            EXPECT_EQ(full.size(), 2U) << "no other table is filled";
+            expectJob("versc.rpt", destination);
+        }
+    }
+    expectDocuments({adjusted2, adjustedInail, adjustedInps}, versumcFile);
+    expectLiquidationUntouched();
+}
+
+TEST_F(VersamentiStampe, TheListAloneOfTheAdjustmentEndsWithWhatTheAdjustmentAdds) {
+    searchAdjustment({adjusted2, adjustedInail}, {mandate1});
+    click("cmdSoloElenco");
+    expectJob("ElenVers.rpt", Destination::printer);
+    expectRow(1, {{"Mother", "Coprdi"}, {"Importo", "4,44"}, {"Numero", "202"}});
+    EXPECT_EQ(*full["Tabella11"][1].find("Son"),
+              Value(std::string("data entro la quale sarà effetuato il versamento ")));
+    expectClosingRows(3, ofAdjustment);
+}
+
+TEST_F(VersamentiStampe, BackFromTheAdjustmentTheListsAreThoseOfTheLiquidation) {
+    searchAdjustment({adjusted2}, {mandate1, inailPaid});
+    click("cmdConguaglio");
+    tick("Check15");
+    click("cmdVideo");
+    expectJob("ElenVers.rpt", Destination::preview);
+    expectRow(2, {{"Son", "Il versamento sarà effettuato entro il"}});
+    expectClosingRows(3);
 }
 
 }  // namespace

@@ -5,6 +5,10 @@
 //   two employees, of whom 12,01 + 7,02 = 19,03 of contributions and 0,50 + 0,25 = 0,75 of the credit fund are
 //   withheld, and for whom 100,10 + 50,05 = 150,15 of contributions and 40,04 + 20,03 = 60,07 of IRAP are due; the
 //   percentages of the second are 8,85  0,30  24,20  8,50. IRPEF 1.234,56, INAIL 78,90, no INPS.
+//
+// The adjustment of it, where there is one, adds 3,33 + 1,11 = 4,44 of contributions withheld, takes back 0,07 of the
+// 0,22 of the credit fund, and adds 11,11 + 5,05 = 16,16 of contributions and 4,04 + 2,02 = 6,06 of IRAP, at 8,90  0,40
+// 23,90  8,60 of the second; IRPEF 321,00, INAIL 6,50, INPS 4,10.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -71,7 +75,27 @@ struct LaidDues {
         .bytes();
 }
 
-/// One record of Versum.vbn.
+/// One record of Congs.vbn.
+[[nodiscard]] inline std::string laidAdjustment(int number, const LaidDues& dues) {
+    const auto& [rates, amounts] = dues;
+    return Sheet(145)
+        .integersAt(0, {number, 3, 0, 0})
+        .at(8, nuls(17))
+        .amountsAt(25, {1100, 1200, 1300, 104500, 4600})
+        .amountsAt(65, {rates[0], amounts[0], rates[1], amounts[1], amounts[0] + amounts[1]})
+        .amountsAt(105, {rates[2], amounts[2], rates[3], amounts[3], amounts[2] + amounts[3]})
+        .bytes();
+}
+[[nodiscard]] inline std::string laidAdjustments() {
+    return laidAdjustment(1, {{2380, 850, 880, 35}, {1111, 404, 333, 22}}) +
+           laidAdjustment(2, {{2390, 860, 890, 40}, {505, 202, 111, -7}});
+}
+[[nodiscard]] inline std::string laidMeirinc(int irpef, int inail, int inps, std::string_view inailOn = "        ",
+                                             std::string_view inpsOn = "        ") {
+    return Sheet(40).amountsAt(0, {irpef}).at(8, inailOn).amountsAt(16, {inail, inps}).at(32, inpsOn).bytes();
+}
+
+/// One record of Versum.vbn or Versumc.vbn.
 struct LaidDocument {
     std::string_view mother;
     std::string_view son;
@@ -100,6 +124,13 @@ inline const LaidDocument irpefForm{"Irpef", "Mod. F24", "", 123456, 0, "16-07-2
 inline const LaidDocument inailPaid{"Inail", "", "", 7890, 0, "16-08-24", ""};
 inline const LaidDocument inpsForm{"Inps", "Mod. F24", "", 4500, 0, "17-08-24", inOriginal};
 
+/// Of the adjustment. The first has number, kind, voice and date of a document of the liquidation.
+inline const LaidDocument adjusted1{"Coprdi", "Mandato di pagamento", "8,9%", 444, 101, "01-07-24", inOriginal};
+inline const LaidDocument adjusted2{"Coprdi", "Mandato di pagamento", "8,9%", 444, 202, "02-10-24", inTwo};
+inline const LaidDocument adjustedIrpef{"Irpef", "Mod. F24", "", 32100, 0, "16-10-24", inTwo};
+inline const LaidDocument adjustedInail{"Inail", "", "", 650, 0, "16-11-24", ""};
+inline const LaidDocument adjustedInps{"Inps", "Mod. F24", "", 410, 0, "17-11-24", inOriginal};
+
 [[nodiscard]] inline std::string laidDocuments(const std::vector<LaidDocument>& documents) {
     std::string bytes;
     for (const LaidDocument& document : documents) bytes += laidDocument(document);
@@ -112,6 +143,14 @@ inline void layPayments(FileSystem& disk, const std::vector<LaidDocument>& docum
     EXPECT_TRUE(lay(disk, paymentPath("Meirin.vbn"), laidMeirin(123456, 7890, 0)));
     if (!documents.empty()) {
         EXPECT_TRUE(lay(disk, paymentPath("Versum.vbn"), laidDocuments(documents)));
+    }
+}
+
+inline void layAdjustment(FileSystem& disk, const std::vector<LaidDocument>& documents = {}) {
+    EXPECT_TRUE(lay(disk, paymentPath("Congs.vbn"), laidAdjustments()));
+    EXPECT_TRUE(lay(disk, paymentPath("Meirinc.vbn"), laidMeirinc(32100, 650, 410)));
+    if (!documents.empty()) {
+        EXPECT_TRUE(lay(disk, paymentPath("Versumc.vbn"), laidDocuments(documents)));
     }
 }
 
@@ -137,9 +176,22 @@ class VersamentiTest : public ScreenDesk<frmVersamenti> {
         identify();
         click("cmdAnteprima");
     }
+    /// The search of an election with an adjustment, and the way into it.
+    void searchAdjustment(const std::vector<LaidDocument>& documents = {},
+                          const std::vector<LaidDocument>& ofLiquidation = {mandate1}) {
+        layAdjustment(files, documents);
+        search(ofLiquidation);
+        click("cmdConguaglio");
+    }
     [[nodiscard]] std::string stored(std::string_view name) { return contentOf(files, paymentPath(name)); }
-    void expectDocuments(const std::vector<LaidDocument>& documents) {
-        EXPECT_EQ(toHex(stored("Versum.vbn")), toHex(laidDocuments(documents)));
+    void expectDocuments(const std::vector<LaidDocument>& documents, std::string_view file = versumFile) {
+        EXPECT_EQ(toHex(stored(file)), toHex(laidDocuments(documents)));
+    }
+    /// What belongs to the liquidation is as it was laid.
+    void expectLiquidationUntouched(const std::vector<LaidDocument>& documents = {mandate1}) {
+        expectDocuments(documents);
+        EXPECT_EQ(toHex(stored("Meirin.vbn")), toHex(laidMeirin(123456, 7890, 0)));
+        EXPECT_EQ(stored("Reversum.vbn"), noFile);
     }
     Lines lines() { return dynamic_cast<ListBox&>(control("List1")).items(); }
     /// The line of the list that ends with the number of the record.
