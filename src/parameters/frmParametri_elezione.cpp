@@ -31,6 +31,7 @@ void frmParametri::showMode() {
     const bool adjustment = Check46.checked();
     const bool electionToChoose = update || adjustment;
     Frame1.visible = electionToChoose || !trim(Combo1.text()).empty();
+    Frame1.text = std::string(adjustment ? "Elezione" : "Elezione da aggiornare");
     Combo2.visible = electionToChoose;
     cmdAggTar.visible = update;
     cmdCrea.visible = adjustment;
