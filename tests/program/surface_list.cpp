@@ -160,9 +160,6 @@ const std::set<std::string_view>& metByNoScreen() {
         "PmDipc.dat",  // the dated rates
         "Congs.vbn",   // the adjustment
         "Congs1.vbn",
-        // The payments of the adjustment, which is not entered yet.
-        versumcFile,
-        meirincFile,
         // Companions never remain after a rebuild.
         reversumFile,
         seggiRevFile,
