@@ -104,11 +104,15 @@ TEST_F(DatedRatesFile, ABlockThatLostItsLastRowShowsTheNextRecordThere) {
     });
 }
 
-/// Saved again, the first block takes back its last row, and the second begins one record later from then on.
-TEST_F(DatedRatesFile, TheFirstBlockSavedAgainTakesTheFirstRecordOfTheNext) {
+/// Saved again, the first block takes back its last row, and the second begins one record later from then on: read now
+/// it would be a row out of step. Saved again too it is whole.
+TEST_F(DatedRatesFile, BothBlocksAreWholeWhenBothAreSavedAgain) {
     ASSERT_TRUE(test::lay(files, path, rowsBytes(april, 1, 31, otherCents) + blockBytes(january, otherCents)));
     ASSERT_THAT(storeDatedRates(files, april, tableOf(test::distinctCents)), test::Succeeds());
     expectFile(blockBytes(april) + rowsBytes(january, 2, 32, otherCents));
+    expectLoaded(january, [](int number, int kind) { return number == 32 ? 0 : otherCents(number + 1, kind); });
+    ASSERT_THAT(storeDatedRates(files, january, tableOf(otherCents)), test::Succeeds());
+    expectFile(blockBytes(april) + blockBytes(january, otherCents));
 }
 
 TEST_F(DatedRatesFile, OneRecordOfAnInstallationIsWrittenOver) {
