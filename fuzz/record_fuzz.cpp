@@ -1,15 +1,21 @@
-// Any bytes as the content of any record file: it is opened, counted, read, scanned, shown field by field and
-// rewritten. The first byte of the input says which file it is. Nothing may crash, and what must hold for every file
-// whatever is in it, is tested.
+// Any bytes as the content of any record file of the program: it is opened, counted, read, scanned, shown field by
+// field and rewritten. The first byte of the input says which file it is. Nothing may crash, and what must hold for
+// every file whatever is in it, is tested.
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <span>
-#include <string>
 #include <string_view>
+#include <type_traits>
+#include <vector>
 
+#include "fuzzing.h"
+#include "program/record_files.h"
 #include "records/overtime_records.h"
+#include "records/payment_records.h"
+#include "records/statement_records.h"
+#include "records/station_records.h"
+#include "records/station_tariff_records.h"
 #include "records/tariff_records.h"
 #include "storage/list_files.h"
 #include "storage/memory_file_system.h"
@@ -18,14 +24,32 @@
 namespace vorbano {
 namespace {
 
-constexpr std::string_view path = "fuzzed.vbn";
+using fuzzing::require;
 
-void require(bool holds) {
-    if (!holds) std::abort();
-}
+constexpr std::string_view path = "fuzzed.vbn";
+constexpr std::string_view companion = "companion.vbn";
 
 void show(std::span<const FieldInfo> fields, std::span<const std::byte> record) {
     for (const FieldInfo& field : fields) require(fieldText(field, record).size() < 3 * field.width + 32);
+}
+
+/// The operations that know only the width, on every file that the program lists.
+void readRaw(FileSystem& files, const RecordInfo& info) {
+    const auto file = RawRecordFile::open(files, path, info.width);
+    require(file.ok());
+    const auto count = file->count();
+    require(count.ok() && *count >= 0 && *count <= maxRecords);
+    std::vector<std::byte> record(info.width);
+    for (int number = 1; number <= *count; ++number) {
+        require(file->read(number, record).ok());
+        show(info.fields, record);
+    }
+    for (const int number : {-1, 0, maxRecords + 1}) require(!file->read(number, record));
+    std::vector<std::byte> block(info.width * 3);
+    for (int first = 1; first <= *count + 1; first += 3) {
+        const auto got = file->readBlock(first, block);
+        require(got.ok() && *got >= 0 && *got <= 3);
+    }
 }
 
 void useRates(const TariffTable& table) {
@@ -37,70 +61,50 @@ void useRates(const TariffTable& table) {
     }
 }
 
+/// The record file of a type: scanned, rewritten without every second record, scanned again.
 template <class Record>
-void use(const Record& record) {
-    if constexpr (std::is_same_v<Record, TariffTable>) useRates(record);
-}
-
-template <class Record>
-void readRecords(FileSystem& files, std::span<const FieldInfo> fields) {
+int scanned(FileSystem& files) {
     const auto file = RecordFile<Record>::open(files, path);
     require(file.ok());
     const auto count = file->count();
-    require(count.ok() && *count >= 0 && *count <= maxRecords && file->size() == *count);
+    require(count.ok() && file->size() == *count);
     int seen = 0;
-    const auto scanned = file->scan([&](int number, const Record& record) {
+    const auto done = file->scan([&](int number, const Record& record) {
         require(number == ++seen);
-        show(fields, std::as_bytes(std::span(&record, 1)));
-        use(record);
+        if constexpr (std::is_same_v<Record, TariffTable>) useRates(record);
     });
-    require(scanned.ok() && seen == *count);
+    require(done.ok() && seen == *count);
     require(file->last().has_value() == (*count > 0));
-    for (const int number : {-1, 0, 1, *count, *count + 1, maxRecords, maxRecords + 1}) file->read(number).ignore();
-}
-
-/// Every second record is left out; the others take new numbers.
-template <class Record>
-void rewriteRecords(FileSystem& files) {
-    int before = 0;
-    const auto done = rewrite<Record>(files, path, reverseFile, [&](int number, Record&) {
-        ++before;
-        return number % 2 == 1;
-    });
-    require(done.ok());
-    const auto after = RecordFile<Record>::open(files, path);
-    require(after.ok() && after->size() == (before + 1) / 2);
+    return seen;
 }
 
 template <class Record>
-void useFile(std::string_view content, std::span<const FieldInfo> fields) {
-    MemoryFileSystem files;
-    require(writeWhole(files, path, content).ok());
-    readRecords<Record>(files, fields);
-    rewriteRecords<Record>(files);
-    readRecords<Record>(files, fields);
+void useFile(FileSystem& files) {
+    const int before = scanned<Record>(files);
+    const auto done = rewrite<Record>(files, path, companion, [](int number, Record&) { return number % 2 == 1; });
+    require(done.ok() && scanned<Record>(files) == (before + 1) / 2);
 }
 
-using UseFile = void (*)(std::string_view content);
-constexpr UseFile uses[] = {
-    [](std::string_view content) { useFile<NameRecord>(content, nameFields); },
-    [](std::string_view content) { useFile<TariffTable>(content, tariffTableFields()); },
-    [](std::string_view content) { useFile<DatedTariffRow>(content, datedTariffFields); },
-    [](std::string_view content) { useFile<SecretaryTariff>(content, secretaryFields()); },
-    [](std::string_view content) { useFile<ContribRates>(content, contribFields); },
-    [](std::string_view content) { useFile<EmployeeRecord>(content, employeeFields); },
-    [](std::string_view content) { useFile<LatePeriodRecord>(content, quartumFields); },
-    [](std::string_view content) { useFile<LatePeriodRecord>(content, pentiumFields); },
-    [](std::string_view content) { useFile<MeirinRecord>(content, meirinFields); },
-    [](std::string_view content) { useFile<DuedateRecord>(content, duedateFields); },
+using Use = void (*)(FileSystem& files);
+constexpr Use uses[] = {
+    useFile<NameRecord>,       useFile<TariffTable>,      useFile<DatedTariffRow>,  useFile<SecretaryTariff>,
+    useFile<ContribRates>,     useFile<NormalTariff>,     useFile<SpecialTariff>,   useFile<EmployeeRecord>,
+    useFile<LatePeriodRecord>, useFile<MeirinRecord>,     useFile<RevMeirinRecord>, useFile<DuedateRecord>,
+    useFile<MemberRecord>,     useFile<SubstituteRecord>, useFile<SegSufRecord>,    useFile<SosSegSufRecord>,
+    useFile<SpecSufrRecord>,   useFile<SspecSufrRecord>,  useFile<RendiRecord>,     useFile<DivStRecord>,
+    useFile<TprovRecord>,      useFile<PaymentRecord>,    useFile<MeirincRecord>,
 };
 
 }  // namespace
 }  // namespace vorbano
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    if (size == 0) return 0;
-    const std::string content(data + 1, data + size);
-    vorbano::uses[data[0] % std::size(vorbano::uses)](content);
+    vorbano::fuzzing::Input input(data, size);
+    const std::uint8_t which = input.byte();
+    vorbano::MemoryFileSystem files;
+    vorbano::fuzzing::require(vorbano::writeWhole(files, vorbano::path, input.rest()).ok());
+    const auto infos = vorbano::recordFiles();
+    vorbano::readRaw(files, infos[which % infos.size()]);
+    vorbano::uses[which % std::size(vorbano::uses)](files);
     return 0;
 }

@@ -66,6 +66,7 @@ std::vector<MemberRecord> withMember(std::span<const MemberRecord> members, int 
 }
 
 std::vector<MemberRecord> withoutMember(std::span<const MemberRecord> members, int number) {
+    if (number < 1 || static_cast<std::size_t>(number) > members.size()) return {members.begin(), members.end()};
     const int station = members[static_cast<std::size_t>(number) - 1].station.SonoSeggio;
     std::vector<MemberRecord> left;
     int at = 0;

@@ -18,6 +18,7 @@ namespace vorbano {
 [[nodiscard]] std::vector<MemberRecord> withMember(std::span<const MemberRecord> members, int station,
                                                    const MemberRecord& added);
 /// The members without record `number` (from 1): in its station `Composto` is one less, and those behind it move up.
+/// Nothing changes when there is no such record.
 [[nodiscard]] std::vector<MemberRecord> withoutMember(std::span<const MemberRecord> members, int number);
 /// The substitutes without the one of the member at `place` of a station. Those of the station that stand behind it in
 /// the file move up. Nothing changes when there is none.

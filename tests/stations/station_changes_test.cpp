@@ -74,6 +74,13 @@ TEST(StationChanges, TakeAMemberOut) {
     EXPECT_THAT(shown(withoutMember(twoStations, 3)), ElementsAre("1.1/2 A", "1.2/2 B"));
 }
 
+TEST(StationChanges, TakeNobodyOutWithANumberThatNobodyHas) {
+    EXPECT_THAT(withoutMember({}, 1), ::testing::IsEmpty());
+    for (const int number : {-1, 0, 4}) {
+        EXPECT_THAT(shown(withoutMember(twoStations, number)), ElementsAre("1.1/2 A", "1.2/2 B", "2.1/1 C")) << number;
+    }
+}
+
 TEST(StationChanges, MoveTheSubstitutesUpByTheirPlaceInTheFile) {
     const std::vector<SubstituteRecord> all = {substituteAt(1, 3, 7), substituteAt(1, 2, 5), substituteAt(2, 2, 4),
                                                substituteAt(1, 4, 6)};
