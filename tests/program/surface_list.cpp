@@ -157,9 +157,6 @@ const std::set<std::string>& provenElsewhere() {
 /// Files that no screen reads or writes yet; their bytes are proven by their own tests.
 const std::set<std::string_view>& metByNoScreen() {
     static const std::set<std::string_view> files = {
-        "PmDipc.dat",  // the dated rates
-        "Congs.vbn",   // the adjustment
-        "Congs1.vbn",
         // Companions never remain after a rebuild.
         reversumFile,
         seggiRevFile,
