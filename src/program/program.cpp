@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "fiscalcode/frmCodFisc.h"
+#include "maintenance/frmCancella.h"
 #include "overtime/frmCompStraord.h"
 #include "overtime/frmElimina.h"
 #include "overtime/frmModDate.h"
@@ -37,6 +38,7 @@ Program::Program(FileSystem& files, Desktop& desktop, Database& staging, Databas
     : watch_(files, desktop),
       workplace_{watch_.files(), watch_.desktop(), staging, printing, *this, places},
       screens_{
+          {"frmCancella", shows<frmCancella>(workplace_)},
           {"frmCodFisc", shows<frmCodFisc>(workplace_)},
           {"frmCompStraord", shows<frmCompStraord>(workplace_)},
           {"frmElimina", shows<frmElimina>(workplace_)},

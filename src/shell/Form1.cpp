@@ -36,8 +36,7 @@ Form1::Form1(const Workplace& workplace) : desk_(workplace) {
     cmdSalva.enabled = false;
 }
 
-/// One row an entry: the screen that it opens. An entry whose screen the program does not have is not shown, nor is a
-/// menu without entries.
+/// One row an entry: the screen that it opens.
 void Form1::hangMenu() {
     const std::array ways = {
         Way{mnuStrao, "frmParametri"},         Way{mnuTarseg, "frmTariffeSeggi"}, Way{mnuCancella, "frmCancella"},
@@ -46,22 +45,7 @@ void Form1::hangMenu() {
         Way{mnu1TurnoN, "frmSeggi"},           Way{mnu1TurnoNmod, "frmModSeggi"}, Way{mnu1TurnoS, "frmSeggiSpeciali"},
         Way{mnu1TurnoSm, "frmModSpeciale"},    Way{mnuInserto, "frmInsRend"},     Way{mnuModif, "frmModRend"},
     };
-    for (const Way& way : ways) {
-        way.entry.visible = desk_.screens.has(way.screen);
-        way.entry.clicked.calls([this, screen = way.screen] { desk_.screens.open(screen); });
-    }
-    // From the innermost outwards: a menu shows when something in it does.
-    for (auto at = form.controls().rbegin(); at != form.controls().rend(); ++at) {
-        if ((*at)->kind() != Kind::menuEntry) continue;
-        bool hasEntries = false;
-        bool showsEntries = false;
-        for (const Control* other : form.controls()) {
-            if (other->kind() != Kind::menuEntry || static_cast<const MenuEntry*>(other)->above() != *at) continue;
-            hasEntries = true;
-            showsEntries = showsEntries || other->visible();
-        }
-        if (hasEntries) (*at)->visible = showsEntries;
-    }
+    for (const Way& way : ways) way.entry.clicked.calls([this, screen = way.screen] { desk_.screens.open(screen); });
 }
 
 void Form1::Form_Load() {

@@ -122,7 +122,7 @@ std::string contentOf(const fs::path& file) {
 
 /// Folders whose sources speak to the clerk.
 constexpr const char* speakingFolders[] = {"screens",    "shell",     "parameters", "overtime", "stations",
-                                           "fiscalcode", "statement", "reports",    "payments"};
+                                           "fiscalcode", "statement", "reports",    "payments", "maintenance"};
 
 /// Said by the program and met by no scenario, each for a reason.
 const std::set<std::string>& provenElsewhere() {

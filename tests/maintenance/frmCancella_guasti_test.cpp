@@ -1,0 +1,159 @@
+// The disk fails once or stops for good at every operation: a file is as it was or gone, never half; a search that
+// fails is told, the deletion goes on; the same work once more ends what was begun.
+
+#include "cancella_desk.h"
+#include "storage/failing_file_system.h"
+
+namespace vorbano::test {
+namespace {
+
+using ::testing::IsEmpty;
+
+/// Says yes to every question and remembers what was told.
+class AgreeingDesk : public ScriptedDesktop {
+  public:
+    Names told;  ///< titles
+    void tell(const Message& message) override { told.push_back(message.title); }
+    bool ask(const Message&) override { return true; }
+};
+
+const std::string seggi = std::string(216, 'S');
+const std::string rendi = std::string(152, 'R');
+
+struct Stage {
+    MemoryFileSystem disk;
+    FailingFileSystem failing{disk};
+    AgreeingDesk desk;
+    MemoryDatabase staging{stagingTables()};
+    MemoryDatabase places{placeTables()};
+    RecordingPrintEngine printing;
+    OpenedScreens screens;
+    std::unique_ptr<frmCancella> screen;
+
+    Stage() {
+        for (const auto& [name, bytes] : laid) EXPECT_TRUE(lay(disk, electionFolder + "/" + name, bytes));
+        screen = std::make_unique<frmCancella>(Workplace{failing, desk, staging, printing, screens, places});
+        desk.open(screen->form);
+        Operator clerk(screen->form);
+        EXPECT_EQ(clerk.choose(screen->Combo1, "Europee"), Refusal::none);
+        EXPECT_EQ(clerk.choose(screen->Combo2, "09-06-24"), Refusal::none);
+    }
+    Stage(const Stage&) = delete;
+    Stage& operator=(const Stage&) = delete;
+    ~Stage() { desk.shut(screen->form); }
+    void click(Control& control) { EXPECT_EQ(Operator(screen->form).click(control), Refusal::none) << control.name(); }
+    void tick(Control& control) {
+        EXPECT_EQ(Operator(screen->form).tick(control, true), Refusal::none) << control.name();
+    }
+    std::string stored(const std::string& name) { return contentOf(disk, electionFolder + "/" + name); }
+    void expectWholeOrGone() {
+        for (const auto& [name, bytes] : laid) {
+            const std::string now = stored(name);
+            EXPECT_TRUE(now == bytes || now == noFile) << name;
+        }
+    }
+    void expectUntouched() {
+        for (const auto& [name, bytes] : laid) EXPECT_EQ(stored(name), bytes) << name;
+    }
+    static inline const std::map<std::string, std::string> laid = {{"Seggi.vbn", seggi},
+                                                                   {"SosSeggi.vbn", std::string(218, 'T')},
+                                                                   {"Rendi.vbn", rendi},
+                                                                   {"DivSt.vbn", std::string(16, 'D')},
+                                                                   {"Meirinc.vbn", std::string(40, 'M')}};
+};
+
+enum class Fault { once, stop };
+class CancellaGuasti : public ::testing::TestWithParam<Fault> {
+  protected:
+    static void strike(Stage& stage, int n) {
+        GetParam() == Fault::once ? stage.failing.failOnce(n) : stage.failing.stopAt(n);
+    }
+    /// Counts the operations of `work` on a fresh stage that `prepare` made ready.
+    template <class Prepare, class Work>
+    static int operations(Prepare prepare, Work work) {
+        Stage stage;
+        prepare(stage);
+        stage.failing.failOnce(0);
+        work(stage);
+        return stage.failing.operations();
+    }
+};
+INSTANTIATE_TEST_SUITE_P(Both, CancellaGuasti, ::testing::Values(Fault::once, Fault::stop));
+
+TEST_P(CancellaGuasti, TheSearchTellsAndOffersNothing) {
+    const auto searching = [](Stage& stage) { stage.click(stage.screen->cmdRicerca); };
+    const int all = operations([](Stage&) {}, searching);
+    ASSERT_GE(all, 16) << "eight files are opened and measured";
+    for (int n = 1; n <= all; ++n) {
+        SCOPED_TRACE(n);
+        Stage stage;
+        strike(stage, n);
+        searching(stage);
+        EXPECT_EQ(stage.desk.told, Names{"Errore"});
+        EXPECT_FALSE(stage.screen->Check1.enabled());
+        EXPECT_FALSE(stage.screen->Check4.enabled());
+        stage.expectUntouched();
+        stage.failing.failOnce(0);
+        searching(stage);
+        EXPECT_TRUE(stage.screen->Check4.enabled());
+        EXPECT_TRUE(stage.screen->Check9.enabled());
+    }
+}
+
+TEST_P(CancellaGuasti, AGroupIsRemovedAsFarAsTheDiskAllows) {
+    const auto prepare = [](Stage& stage) {
+        stage.click(stage.screen->cmdRicerca);
+        stage.tick(stage.screen->Check4);
+        stage.tick(stage.screen->Check9);
+    };
+    const auto deleting = [](Stage& stage) { stage.click(stage.screen->cmdEsegui); };
+    const int all = operations(prepare, deleting);
+    ASSERT_EQ(all, 9) << "each of five files is looked for, and the four that are there are removed";
+    for (int n = 1; n <= all; ++n) {
+        SCOPED_TRACE(n);
+        Stage stage;
+        prepare(stage);
+        strike(stage, n);
+        deleting(stage);
+        EXPECT_EQ(stage.desk.told, Names{"Cancellazione"});
+        stage.expectWholeOrGone();
+        EXPECT_EQ(stage.stored("Meirinc.vbn"), std::string(40, 'M'));
+        // In the order of removal, each is looked for and removed; the fifth was never there.
+        const Names order = {"Seggi.vbn", "SosSeggi.vbn", "Rendi.vbn", "DivSt.vbn"};
+        for (int at = 0; at < static_cast<int>(order.size()); ++at) {
+            const int removal = 2 * at + 2;
+            const bool spared = GetParam() == Fault::once ? n == removal || n == removal - 1 : n <= removal;
+            EXPECT_EQ(stage.stored(order[static_cast<std::size_t>(at)]) != noFile, spared) << at;
+        }
+        stage.failing.failOnce(0);
+        deleting(stage);
+        for (const std::string& name : order) EXPECT_EQ(stage.stored(name), noFile) << name;
+    }
+}
+
+TEST_P(CancellaGuasti, AnElectionIsRemovedAsFarAsTheDiskAllows) {
+    const auto prepare = [](Stage& stage) {
+        stage.click(stage.screen->cmdRicerca);
+        stage.tick(stage.screen->Check1);
+    };
+    const auto deleting = [](Stage& stage) { stage.click(stage.screen->cmdEsegui); };
+    const int all = operations(prepare, deleting);
+    ASSERT_GE(all, 13) << "two groups, the list, at least six files, the folder";
+    for (int n = 1; n <= all; ++n) {
+        SCOPED_TRACE(n);
+        Stage stage;
+        prepare(stage);
+        strike(stage, n);
+        deleting(stage);
+        EXPECT_EQ(stage.desk.told, Names{"Cancellazione"});
+        stage.expectWholeOrGone();
+        stage.failing.failOnce(0);
+        deleting(stage);
+        EXPECT_THAT(namesIn(stage.disk, "Elezioni/Europee"), IsEmpty());
+        stage.click(stage.screen->cmdAnnulla);
+        EXPECT_THAT(stage.screen->Combo2.items(), IsEmpty());
+    }
+}
+
+}  // namespace
+}  // namespace vorbano::test
