@@ -1,7 +1,7 @@
 // The panel "Inserimento Ente": the name of the municipality.
 
 #include "shell_desk.h"
-#include "storage/failing_file_system.h"
+#include "support/fault_stage.h"
 
 namespace vorbano::test {
 namespace {
@@ -202,54 +202,43 @@ class GuastiEnte : public ShellTest {
     }
     int operationsOfASave() {
         prepare();
-        failing.failOnce(0);
         desktop.box("Inserimento Ente", "Operazione terminata");
-        click("cmdSalva");
-        return failing.operations();
+        return operationsOf(failing, [&] { click("cmdSalva"); });
     }
+    const FaultCase inTable{"Form1.cmdSalva", "another municipality"};
 };
 
 TEST_F(GuastiEnte, ASaveThatFailsIsToldAndCanBeGivenAgain) {
     const int all = operationsOfASave();
     ASSERT_GE(all, 3);
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(inTable, all, [&](int n) {
         prepare();
-        failing.failOnce(n);
         desktop.box("Errore", broken);
-        click("cmdSalva");
-        failing.failOnce(0);
+        failingOnce(failing, n, [&] { click("cmdSalva"); });
         EXPECT_THAT(ente(), ::testing::AnyOf(before, after));
         EXPECT_TRUE(visible("Frame1"));
         desktop.box("Inserimento Ente", "Operazione terminata");
         click("cmdSalva");
         EXPECT_EQ(ente(), after);
-    }
+    });
 }
 
 TEST_F(GuastiEnte, APowerCutLeavesTheNameOldOrNew) {
     const int all = operationsOfASave();
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(inTable, all, [&](int n) {
         prepare();
-        failing.stopAt(n);
         desktop.box("Errore", broken);
-        click("cmdSalva");
-        failing.stopAt(0);
-        files.cutPower();
+        cuttingPower(failing, files, n, [&] { click("cmdSalva"); });
         EXPECT_THAT(ente(), ::testing::AnyOf(before, after));
-    }
+    });
 }
 
 TEST_F(GuastiEnte, ANameThatCouldNotBeReadIsNotAskedForAgain) {
     layEnte();
-    failing.failOnce(0);
-    startOn(failing);
-    const int all = failing.operations();
+    const int all = operationsOf(failing, [&] { startOn(failing); });
     ASSERT_GE(all, 5);
     int told = 0;
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation({"Form1", "opens"}, all, [&](int n) {
         failing.failOnce(n);
         const bool isEnte = n > 2;  // the two folders come first, and are there
         if (isEnte) {
@@ -258,7 +247,7 @@ TEST_F(GuastiEnte, ANameThatCouldNotBeReadIsNotAskedForAgain) {
         }
         startOn(failing);
         EXPECT_FALSE(visible("Frame1"));
-    }
+    });
     EXPECT_EQ(told, 3) << "opening, counting, reading";
 }
 

@@ -2,7 +2,7 @@
 // or new, what failed is told, what was typed stays, and the same command once more stores all.
 
 #include "statement_desk.h"
-#include "storage/failing_file_system.h"
+#include "support/fault_stage.h"
 
 namespace vorbano::test {
 namespace {
@@ -11,59 +11,36 @@ using ::testing::AnyOf;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class TellingDesk : public ScriptedDesktop {
-  public:
-    std::vector<std::string> told;  ///< titles
-    void tell(const Message& message) override { told.push_back(message.title); }
-};
-
 /// A fresh disk with an election of all three files.
 template <class ScreenType>
-struct Stage {
-    static constexpr const char* type = "Provinciali_Comunali";
-    MemoryFileSystem disk;
-    FailingFileSystem failing{disk};
-    TellingDesk desk;
-    MemoryDatabase staging{stagingTables()};
-    MemoryDatabase places{placeTables()};
-    RecordingPrintEngine printing;
-    OpenedScreens screens;
-    ScreenType screen{Workplace{failing, desk, staging, printing, screens, places}};
+struct Stage : FaultStage<ScreenType> {
+    static constexpr const char* electionType = "Provinciali_Comunali";
+    static constexpr bool entry = std::is_same_v<ScreenType, frmInsRend>;
+    using FaultStage<ScreenType>::disk;
 
     Stage() {
-        layCosts(disk, type, someDay);
+        layCosts(disk, electionType, someDay);
         if constexpr (std::is_same_v<ScreenType, frmModRend>) {
             EXPECT_TRUE(lay(disk, path("Rendi.vbn"), nuls(152)));
             EXPECT_TRUE(lay(disk, path("Tprov.vbn"), nuls(16)));
             EXPECT_TRUE(lay(disk, path("DivSt.vbn"), nuls(16)));
         }
-        screen.Combo1.items = TipoElezioni(disk);
-        desk.open(screen.form);
-        EXPECT_EQ(clerk().choose(control("Combo1"), type), Refusal::none);
-        EXPECT_EQ(clerk().choose(control("Combo2"), someDay), Refusal::none);
+        this->openScreen();
+        this->choose("Combo1", electionType);
+        this->choose("Combo2", someDay);
     }
-    Stage(const Stage&) = delete;
-    Stage& operator=(const Stage&) = delete;
-    ~Stage() { desk.shut(screen.form); }
 
-    static std::string path(std::string_view name) { return statementPath(type, someDay, name); }
-    Control& control(const char* name) { return *screen.form.find(name); }
-    Operator clerk() { return Operator(screen.form); }
-    Refusal call() {
-        const bool entry = std::is_same_v<ScreenType, frmInsRend>;
-        return clerk().click(control(entry ? "cmdAnteprima" : "cmdRicerca"));
-    }
+    static std::string path(std::string_view name) { return statementPath(electionType, someDay, name); }
+    Refusal call() { return this->clerk().click(this->control(entry ? "cmdAnteprima" : "cmdRicerca")); }
     void fill() {
-        if constexpr (std::is_same_v<ScreenType, frmModRend>) {
-            EXPECT_EQ(clerk().tick(control("Check1"), true), Refusal::none);
-        }
+        if (!entry) this->tick("Check1");
         int cents = 1;
         for (const char* name :
              {"txtMagMis", "txtTotComune", "txtTotProv", "txtTrasporti", "txtMissioni", "txtAcconti"})
-            EXPECT_EQ(clerk().type(control(name), "1,0" + std::to_string(cents++)), Refusal::none) << name;
-        clerk().leave();
+            this->type(name, "1,0" + std::to_string(cents++));
+        this->leave();
     }
-    void save() { EXPECT_EQ(clerk().click(control("cmdSalva")), Refusal::none); }
+    void save() { this->click("cmdSalva"); }
     std::string at(std::string_view name) { return toHex(contentOf(disk, path(name))); }
 };
 
@@ -80,19 +57,21 @@ const std::string savedDivSt = toHex(amount(0) + amount(1, 2));
 template <class ScreenType>
 class Faults : public ::testing::Test {
   protected:
-    static constexpr bool entry = std::is_same_v<ScreenType, frmInsRend>;
+    static constexpr bool entry = Stage<ScreenType>::entry;
+    static FaultCase inTable(const char* entering, const char* correcting, const char* what) {
+        return {entry ? std::string("frmInsRend.") + entering : std::string("frmModRend.") + correcting, what};
+    }
     /// Operations of a save without a fault.
     static int operationsOfASave() {
         Stage<ScreenType> stage;
         EXPECT_EQ(stage.call(), Refusal::none);
         stage.fill();
-        stage.failing.failOnce(0);
-        stage.save();
+        const int all = operationsOf(stage.failing, [&] { stage.save(); });
         EXPECT_THAT(stage.desk.told, ElementsAre("Rendiconto"));
         EXPECT_EQ(stage.at("Rendi.vbn"), toHex(savedRendi<ScreenType>()));
         EXPECT_EQ(stage.at("Tprov.vbn"), savedTprov);
         EXPECT_EQ(stage.at("DivSt.vbn"), savedDivSt);
-        return stage.failing.operations();
+        return all;
     }
     static void expectOldOrNew(Stage<ScreenType>& stage, const char* name, const std::string& saved) {
         const std::string none = toHex(noFile);
@@ -107,8 +86,8 @@ TYPED_TEST(Faults, OfASaveLeaveWholeFilesAndTheTypedLines) {
     const int operations = TestFixture::operationsOfASave();
     ASSERT_GT(operations, 6);
     for (const bool forGood : {false, true}) {
-        for (int n = 1; n <= operations; ++n) {
-            SCOPED_TRACE((forGood ? "stopped at " : "failed at ") + std::to_string(n));
+        atEveryOperation(this->inTable("cmdSalva", "cmdSalva", "three files"), operations, [&](int n) {
+            SCOPED_TRACE(forGood ? "stopped" : "failed");
             Stage<TypeParam> stage;
             ASSERT_EQ(stage.call(), Refusal::none);
             stage.fill();
@@ -122,10 +101,10 @@ TYPED_TEST(Faults, OfASaveLeaveWholeFilesAndTheTypedLines) {
             this->expectOldOrNew(stage, "Rendi.vbn", toHex(savedRendi<TypeParam>()));
             this->expectOldOrNew(stage, "Tprov.vbn", savedTprov);
             this->expectOldOrNew(stage, "DivSt.vbn", savedDivSt);
-            EXPECT_EQ(stage.screen.txtTrasporti.text(), "1,04");
-            EXPECT_EQ(stage.screen.txtTotProv.text(), "1,03");
-            EXPECT_TRUE(stage.screen.cmdSalva.isEnabled());
-            EXPECT_FALSE(stage.screen.Combo1.isEnabled());
+            EXPECT_EQ(stage.screen->txtTrasporti.text(), "1,04");
+            EXPECT_EQ(stage.screen->txtTotProv.text(), "1,03");
+            EXPECT_TRUE(stage.screen->cmdSalva.isEnabled());
+            EXPECT_FALSE(stage.screen->Combo1.isEnabled());
             stage.failing.failOnce(0);
             stage.desk.told.clear();
             stage.save();
@@ -133,8 +112,21 @@ TYPED_TEST(Faults, OfASaveLeaveWholeFilesAndTheTypedLines) {
             EXPECT_EQ(stage.at("Rendi.vbn"), toHex(savedRendi<TypeParam>()));
             EXPECT_EQ(stage.at("Tprov.vbn"), savedTprov);
             EXPECT_EQ(stage.at("DivSt.vbn"), savedDivSt);
-        }
+        });
     }
+}
+
+TYPED_TEST(Faults, OfASaveWithThePowerCutLeaveWholeFiles) {
+    atEveryOperation(this->inTable("cmdSalva", "cmdSalva", "three files"), TestFixture::operationsOfASave(),
+                     [&](int n) {
+                         Stage<TypeParam> stage;
+                         ASSERT_EQ(stage.call(), Refusal::none);
+                         stage.fill();
+                         cuttingPower(stage.failing, stage.disk, n, [&] { stage.save(); });
+                         this->expectOldOrNew(stage, "Rendi.vbn", toHex(savedRendi<TypeParam>()));
+                         this->expectOldOrNew(stage, "Tprov.vbn", savedTprov);
+                         this->expectOldOrNew(stage, "DivSt.vbn", savedDivSt);
+                     });
 }
 
 TYPED_TEST(Faults, OfACallAreToldAndOpenNothing) {
@@ -148,21 +140,20 @@ TYPED_TEST(Faults, OfACallAreToldAndOpenNothing) {
     }
     ASSERT_GT(operations, 20);
     int told = 0;
-    for (int n = 1; n <= operations; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(this->inTable("cmdAnteprima", "cmdRicerca", "reads"), operations, [&](int n) {
         Stage<TypeParam> stage;
         stage.failing.stopAt(n);
         ASSERT_EQ(stage.call(), Refusal::none);
         ASSERT_THAT(stage.desk.told, AnyOf(ElementsAre("Errore"), ElementsAre("Rendiconto")));
         told += stage.desk.told.front() == "Rendiconto" ? 1 : 0;
-        EXPECT_FALSE(stage.screen.cmdSalva.isEnabled());
-        EXPECT_FALSE(stage.screen.txtTrasporti.isEnabled());
-        EXPECT_EQ(stage.screen.txtOnorari.text(), "");
+        EXPECT_FALSE(stage.screen->cmdSalva.isEnabled());
+        EXPECT_FALSE(stage.screen->txtTrasporti.isEnabled());
+        EXPECT_EQ(stage.screen->txtOnorari.text(), "");
         stage.failing.failOnce(0);
         ASSERT_EQ(stage.call(), Refusal::none);
         EXPECT_EQ(stage.desk.told.size(), 1U);
-        EXPECT_NE(stage.screen.txtOnorari.text(), "");
-    }
+        EXPECT_NE(stage.screen->txtOnorari.text(), "");
+    });
     EXPECT_GT(told, 3) << "the overtime has words of its own";
 }
 

@@ -3,7 +3,7 @@
 // and nothing is done twice.
 
 #include "correction_desk.h"
-#include "storage/failing_file_system.h"
+#include "support/fault_stage.h"
 
 namespace vorbano::test {
 namespace {
@@ -12,14 +12,6 @@ using ::testing::AnyOf;
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-/// Says yes to every question and remembers what was told.
-class AgreeingDesk : public ScriptedDesktop {
-  public:
-    std::vector<std::string> told;  ///< titles
-    void tell(const Message& message) override { told.push_back(message.title); }
-    bool ask(const Message&) override { return true; }
-};
 
 constexpr Who sarti = {1, 4, 5, "SARTI", "DINA", "Via Nera 1", "Scrutatore", "SRTDNI79A41H501L", 4'800};
 constexpr Who tosi = {1, 4, 6, "TOSI", "ELIO", "Via Bianca 2", "Segretario", "TSOLEI81B02H501T", 5'520};
@@ -43,64 +35,45 @@ struct Command {
     bool special = false;    ///< on the screen and the files of the special stations
     [[nodiscard]] std::string members() const { return folder + (special ? "Speciale.vbn" : "Seggi.vbn"); }
     [[nodiscard]] std::string substitutes() const { return folder + (special ? "SosSpec.vbn" : "SosSeggi.vbn"); }
+    [[nodiscard]] FaultCase inTable() const {
+        return {special ? "frmModSpeciale.cmdSalva" : "frmModSeggi.cmdSalva", name};
+    }
 };
 void PrintTo(const Command& command, std::ostream* out) { *out << command.name; }
 
 /// One fresh disk, desk and screen, at station 1.
-struct Stage {
-    MemoryFileSystem disk;
-    FailingFileSystem failing{disk};
-    AgreeingDesk desk;
-    MemoryDatabase staging{stagingTables()};
-    MemoryDatabase places{placeTables()};
-    RecordingPrintEngine printing;
-    OpenedScreens screens;
-    std::shared_ptr<StationCorrection> screen;
-
+struct Stage : FaultStage<StationCorrection> {
     explicit Stage(const Command& command) {
         EXPECT_TRUE(lay(disk, "Params/Tarseg.dat", feesBytes("Europee", {13'800, 11'040, 9'600})));
         EXPECT_TRUE(lay(disk, "Params/TarSpec.dat", feesBytes("Europee", {13'800, 9'600})));
         EXPECT_TRUE(lay(disk, command.members(), membersBytes(command.membersBefore)));
         EXPECT_TRUE(lay(disk, command.substitutes(), command.substitutesBefore));
-        const Workplace workplace{failing, desk, staging, printing, screens, places};
         if (command.special) {
-            screen = std::make_shared<frmModSpeciale>(workplace);
+            openScreen<frmModSpeciale>();
         } else {
-            screen = std::make_shared<frmModSeggi>(workplace);
+            openScreen<frmModSeggi>();
         }
-        desk.open(screen->form);
-        EXPECT_EQ(clerk().choose(control("Combo1"), "Europee"), Refusal::none);
+        choose("Combo1", "Europee");
         type("txtDataEle", "09-06-24");
         type("txtSeggio", "1");
         click("cmdRicerca");
         click("cmdAttiva");
         command.prepare(*this);
     }
-    Stage(const Stage&) = delete;
-    Stage& operator=(const Stage&) = delete;
-    ~Stage() { desk.shut(screen->form); }
-
-    Control& control(const std::string& name) { return *screen->form.find(name); }
-    Operator clerk() { return Operator(screen->form); }
-    void type(const char* field, const char* words) {
-        EXPECT_EQ(clerk().type(control(field), words), Refusal::none) << field;
-    }
-    void tick(const char* box) { EXPECT_EQ(clerk().tick(control(box), true), Refusal::none) << box; }
-    void pick(int row) { EXPECT_EQ(clerk().pick(control("MSFlexGrid1"), row, 1), Refusal::none) << row; }
-    void click(const char* button) { EXPECT_EQ(clerk().click(control(button)), Refusal::none) << button; }
+    void pickMember(int row) { pick("MSFlexGrid1", row, 1); }
     std::string stored(const std::string& path) { return contentOf(disk, path); }
     void save() { click("cmdSalva"); }
 };
 
 void correctMember(Stage& stage) {
     stage.tick("Check3");
-    stage.pick(3);
+    stage.pickMember(3);
     stage.type("txtImporto", "77");
     stage.type("txtNome", "NICOL\xC3\x92");
 }
 void giveSubstitute(Stage& stage) {
     stage.tick("Check3");
-    stage.pick(3);
+    stage.pickMember(3);
     stage.tick("Check1");
     stage.type("txtImporto2", "48");
     stage.type("txtSostituto", "SARTI");
@@ -110,7 +83,7 @@ void giveSubstitute(Stage& stage) {
 }
 void takeSubstitute(Stage& stage) {
     stage.tick("Check3");
-    stage.pick(3);
+    stage.pickMember(3);
     stage.type("txtNome", "NICOL\xC3\x92");
     stage.tick("Check2");
 }
@@ -121,7 +94,7 @@ void addOne(Stage& stage) {
 }
 void removeOne(Stage& stage) {
     stage.tick("Check5");
-    stage.pick(3);
+    stage.pickMember(3);
 }
 
 std::vector<Who> oneMore() {
@@ -183,25 +156,21 @@ class ModSeggiGuasti : public ::testing::TestWithParam<Command> {
     }
     static int operations() {
         Stage stage(GetParam());
-        stage.failing.failOnce(0);
-        stage.save();
+        const int all = operationsOf(stage.failing, [&] { stage.save(); });
         EXPECT_THAT(stage.desk.told, ElementsAre(GetParam().done));
         expectDone(stage);
-        return stage.failing.operations();
+        return all;
     }
 };
 
 TEST_P(ModSeggiGuasti, OneFailureIsToldAndTheCommandGivenAgainEndsIt) {
     const int all = operations();
     int failed = 0;
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(GetParam().inTable(), all, [&](int n) {
         Stage stage(GetParam());
         const std::string typed = stage.control(GetParam().typedField).shownText();
         ASSERT_FALSE(typed.empty());
-        stage.failing.failOnce(n);
-        stage.save();
-        stage.failing.failOnce(0);
+        failingOnce(stage.failing, n, [&] { stage.save(); });
         EXPECT_THAT(stage.desk.told, Contains("Errore"));
         expectWhole(stage);
         if (stage.control("cmdSalva").isOperable()) {
@@ -218,7 +187,7 @@ TEST_P(ModSeggiGuasti, OneFailureIsToldAndTheCommandGivenAgainEndsIt) {
             EXPECT_FALSE(stage.control("cmdAttiva").isOperable());
         }
         expectDone(stage);
-    }
+    });
     // A change in place is opened, written and flushed; a rebuild reads, writes, flushes and replaces as well.
     EXPECT_GE(failed, 3);
     // Both files are read again.
@@ -227,13 +196,9 @@ TEST_P(ModSeggiGuasti, OneFailureIsToldAndTheCommandGivenAgainEndsIt) {
 
 TEST_P(ModSeggiGuasti, AfterAPowerCutEachFileIsWholeAndTheStationCanBeSearched) {
     const int all = operations();
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(GetParam().inTable(), all, [&](int n) {
         Stage stage(GetParam());
-        stage.failing.stopAt(n);
-        stage.save();
-        stage.failing.stopAt(0);
-        stage.disk.cutPower();
+        cuttingPower(stage.failing, stage.disk, n, [&] { stage.save(); });
         expectWhole(stage);
         stage.desk.told.clear();
         if (stage.control("cmdAnnulla1").isOperable()) stage.click("cmdAnnulla1");
@@ -241,7 +206,7 @@ TEST_P(ModSeggiGuasti, AfterAPowerCutEachFileIsWholeAndTheStationCanBeSearched) 
         stage.click("cmdRicerca");
         EXPECT_THAT(stage.desk.told, IsEmpty());
         EXPECT_GE(stage.screen->MSFlexGrid1.rows(), 3);
-    }
+    });
 }
 
 INSTANTIATE_TEST_SUITE_P(All, ModSeggiGuasti, ::testing::ValuesIn(commands()),
@@ -254,20 +219,16 @@ struct ModSeggiDisco : ModSeggiTest {
 TEST_F(ModSeggiDisco, ASearchThatFailsIsToldAndShowsNothing) {
     openOn(failing);
     name("1");
-    failing.failOnce(0);
-    click("cmdRicerca");
-    const int all = failing.operations();
+    const int all = operationsOf(failing, [&] { click("cmdRicerca"); });
     ASSERT_GE(all, 5);
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
-        failing.failOnce(n);
-        click("cmdRicerca");
-        EXPECT_THAT(desktop.finish(), ElementsAre(::testing::HasSubstr("nobody expected the box \"Errore\"")));
+    atEveryOperation({"frmModSeggi.cmdRicerca", "reads"}, all, [&](int n) {
+        failingOnce(failing, n, [&] { click("cmdRicerca"); });
+        EXPECT_THAT(desktop.finish(), onlyAnError());
         EXPECT_EQ(rows(), 0);
         EXPECT_FALSE(operable("cmdAttiva"));
         click("cmdRicerca");
         EXPECT_EQ(rows(), 4);
-    }
+    });
 }
 
 TEST_F(ModSeggiDisco, ATariffThatCannotBeReadIsToldAndTheFeeStays) {

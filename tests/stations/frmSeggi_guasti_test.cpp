@@ -2,14 +2,12 @@
 // or new, the clerk is told, and what was typed stays so that the command can be given again.
 
 #include "seggi_desk.h"
-#include "storage/failing_file_system.h"
+#include "support/fault_stage.h"
 
 namespace vorbano::test {
 namespace {
 
 using ::testing::AnyOf;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
 
@@ -33,7 +31,7 @@ class SeggiFaults : public SeggiTest {
         beginStation("3");
         typeMember({.size = 3});
     }
-    void expectTold() { EXPECT_THAT(desktop.finish(), ElementsAre(HasSubstr("nobody expected the box \"Errore\""))); }
+    void expectTold() { EXPECT_THAT(desktop.finish(), onlyAnError()); }
 
     FailingFileSystem failing{files};
     const MemberOnPaper first{.size = 3};
@@ -48,18 +46,13 @@ TEST_F(SeggiFaults, AMemberThatCannotBeStoredStaysOnTheScreenAndIsNeverStoredTwi
         typeMember(second);
     };
     ready();
-    failing.failOnce(0);
-    click("cmdSalva");
-    const int operations = failing.operations();
+    const int operations = operationsOf(failing, [&] { click("cmdSalva"); });
     EXPECT_EQ(toHex(file(seggiPath)), toHex(after));
     // Three folders, and the file: opened, counted, written, flushed.
     EXPECT_GE(operations, 7);
-    for (int n = 1; n <= operations; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation({"frmSeggi.cmdSalva", "second member"}, operations, [&](int n) {
         ready();
-        failing.failOnce(n);
-        click("cmdSalva");
-        failing.failOnce(0);
+        failingOnce(failing, n, [&] { click("cmdSalva"); });
         expectTold();
         EXPECT_THAT(toHex(file(seggiPath)), AnyOf(toHex(before), toHex(after)));
         EXPECT_EQ(text("txtCompo1"), "Verdi");
@@ -71,27 +64,21 @@ TEST_F(SeggiFaults, AMemberThatCannotBeStoredStaysOnTheScreenAndIsNeverStoredTwi
         EXPECT_THAT(desktop.finish(), IsEmpty());
         EXPECT_EQ(toHex(file(seggiPath)), toHex(after));
         EXPECT_EQ(readyMember(), "3 Scrutatore");
-    }
+    });
 }
 
 TEST_F(SeggiFaults, ACompleteCycleStoppedAnywhereLeavesWholeRecords) {
     const std::string before = memberBytes(first);
     prepare(before, 1);
     typeMember(second);
-    failing.failOnce(0);
-    click("cmdSalva");
-    const int operations = failing.operations();
-    for (int n = 1; n <= operations; ++n) {
-        SCOPED_TRACE(n);
+    const int operations = operationsOf(failing, [&] { click("cmdSalva"); });
+    atEveryOperation({"frmSeggi.cmdSalva", "second member"}, operations, [&](int n) {
         prepare(before, 1);
         typeMember(second);
-        failing.stopAt(n);
-        click("cmdSalva");
-        failing.stopAt(0);
-        files.cutPower();
+        cuttingPower(failing, files, n, [&] { click("cmdSalva"); });
         EXPECT_THAT(desktop.finish(), Not(IsEmpty()));
         EXPECT_THAT(toHex(file(seggiPath)), AnyOf(toHex(before), toHex(before + memberBytes(second))));
-    }
+    });
 }
 
 TEST_F(SeggiFaults, AMemberThatCouldNotBeStoredIsNotStoredTwiceAfterACorrection) {
@@ -100,9 +87,7 @@ TEST_F(SeggiFaults, AMemberThatCouldNotBeStoredIsNotStoredTwiceAfterACorrection)
         SCOPED_TRACE(n);
         prepare(memberBytes(first), 1);
         typeMember(second);
-        failing.failOnce(n);
-        click("cmdSalva");
-        failing.failOnce(0);
+        failingOnce(failing, n, [&] { click("cmdSalva"); });
         // Behind the last operation of a save nothing fails any more.
         if (desktop.finish().empty()) break;
         tick("Check1");
@@ -116,19 +101,14 @@ TEST_F(SeggiFaults, AMemberThatCouldNotBeStoredIsNotStoredTwiceAfterACorrection)
 
 TEST_F(SeggiFaults, TheFirstMemberOfAnElectionIsStoredAtTheNextAttempt) {
     prepareNew();
-    failing.failOnce(0);
-    click("cmdSalva");
-    const int operations = failing.operations();
-    for (int n = 1; n <= operations; ++n) {
-        SCOPED_TRACE(n);
+    const int operations = operationsOf(failing, [&] { click("cmdSalva"); });
+    atEveryOperation({"frmSeggi.cmdSalva", "first member"}, operations, [&](int n) {
         prepareNew();
-        failing.failOnce(n);
-        click("cmdSalva");
-        failing.failOnce(0);
+        failingOnce(failing, n, [&] { click("cmdSalva"); });
         expectTold();
         click("cmdSalva");
         EXPECT_EQ(toHex(file(seggiPath)), toHex(memberBytes(first)));
-    }
+    });
 }
 
 TEST_F(SeggiFaults, ACorrectionThatFailsStaysOpenAndCanBeRepeated) {
@@ -143,29 +123,24 @@ TEST_F(SeggiFaults, ACorrectionThatFailsStaysOpenAndCanBeRepeated) {
         type("txtIndi1", "Via Adda, 9");
     };
     ready();
-    failing.failOnce(0);
-    click("cmdSalva");
-    const int operations = failing.operations();
+    const int operations = operationsOf(failing, [&] { click("cmdSalva"); });
     // The last ones only read the station into the grid again: opened, counted, read.
     EXPECT_GE(operations, 7);
-    for (int n = 1; n <= operations; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation({"frmSeggi.cmdSalva", "correction"}, operations, [&](int n) {
         ready();
-        failing.failOnce(n);
-        click("cmdSalva");
-        failing.failOnce(0);
+        failingOnce(failing, n, [&] { click("cmdSalva"); });
         expectTold();
         EXPECT_THAT(toHex(file(seggiPath)), AnyOf(toHex(before), toHex(after)));
         if (!ticked("Check1")) {
             EXPECT_EQ(toHex(file(seggiPath)), toHex(after));
-            continue;
+            return;
         }
         EXPECT_EQ(text("txtIndi1"), "Via Adda, 9");
         EXPECT_EQ(readyMember(), "1 Presidente");
         click("cmdSalva");
         EXPECT_EQ(toHex(file(seggiPath)), toHex(after));
         EXPECT_FALSE(ticked("Check1"));
-    }
+    });
 }
 
 TEST_F(SeggiFaults, ARowThatCannotBeReadIsToldAndNobodyIsCalledUp) {
@@ -196,29 +171,24 @@ TEST_F(SeggiFaults, AReductionChangesAllRecordsOrNone) {
         box("inserimento seggi", fewerStations(5), Answer::yes);
     };
     ready();
-    failing.failOnce(0);
-    click("cmdAttiva");
-    const int operations = failing.operations();
+    const int operations = operationsOf(failing, [&] { click("cmdAttiva"); });
     EXPECT_EQ(toHex(file(seggiPath)), toHex(stored(3)));
     int told = 0;
-    for (int n = 1; n <= operations; ++n) {
-        SCOPED_TRACE(n);
-        for (const bool stops : {false, true}) {
+    for (const bool stops : {false, true}) {
+        atEveryOperation({"frmSeggi.cmdAttiva", "fewer stations"}, operations, [&](int n) {
             ready();
+            const auto activate = [&] { click("cmdAttiva"); };
             if (stops) {
-                failing.stopAt(n);
+                cuttingPower(failing, files, n, activate);
             } else {
-                failing.failOnce(n);
+                failingOnce(failing, n, activate);
             }
-            click("cmdAttiva");
-            failing.failOnce(0);
-            if (stops) files.cutPower();
             told += desktop.finish().empty() ? 0 : 1;
             EXPECT_THAT(toHex(file(seggiPath)), AnyOf(toHex(stored(5)), toHex(stored(3))));
             const bool goesOn = text("cmdAttiva") == "ATTIVATO";
             EXPECT_TRUE(!goesOn || file(seggiPath) == stored(3));
             files.remove(seggiRevPath).ignore();
-        }
+        });
     }
     // Only the folder of all elections and the removal of an older companion may fail unseen.
     EXPECT_GE(told, 2 * operations - 4);
@@ -242,7 +212,7 @@ TEST_F(SeggiFaults, AnElectionThatCannotBeReadIsNotTakenForANewOne) {
 
 class SpecialFaults : public SeggiSpecialiTest {
   protected:
-    void expectTold() { EXPECT_THAT(desktop.finish(), ElementsAre(HasSubstr("nobody expected the box \"Errore\""))); }
+    void expectTold() { EXPECT_THAT(desktop.finish(), onlyAnError()); }
 
     FailingFileSystem failing{files};
 };
@@ -253,23 +223,32 @@ TEST_F(SpecialFaults, AMemberThatCannotBeStoredStaysOnTheScreenAndIsNeverStoredT
         .station = 4, .size = 3, .place = 2, .role = "Scrutatore", .surname = "Verdi", .fee = 6'100};
     const std::string before = memberBytes(first);
     const std::string after = before + memberBytes(second);
-    for (int n = 1, operations = 1; n <= operations; ++n) {
-        SCOPED_TRACE(n);
+    const auto ready = [&] {
         failing.failOnce(0);
         ASSERT_TRUE(lay(files, specialePath, before));
         openScreenOn(failing);
         resume(specialAlreadyStored(1, " n.4", 4, 1));
         typeMember(second);
-        failing.failOnce(n);
-        click("cmdSalva");
+    };
+    ready();
+    const int operations = operationsOf(failing, [&] { click("cmdSalva"); });
+    EXPECT_GE(operations, 7);
+    EXPECT_EQ(toHex(file(specialePath)), toHex(after));
+    atEveryOperation({"frmSeggiSpeciali.cmdSalva", "second member"}, operations, [&](int n) {
+        ready();
+        failingOnce(failing, n, [&] { click("cmdSalva"); });
         expectTold();
-        failing.failOnce(0);
+        EXPECT_THAT(toHex(file(specialePath)), AnyOf(toHex(before), toHex(after)));
         EXPECT_EQ(text("txtCompo1"), "Verdi");
         click("cmdSalva");
-        operations = failing.operations();
-        EXPECT_GE(operations, 7);
         EXPECT_EQ(toHex(file(specialePath)), toHex(after));
-    }
+    });
+    atEveryOperation({"frmSeggiSpeciali.cmdSalva", "second member"}, operations, [&](int n) {
+        ready();
+        cuttingPower(failing, files, n, [&] { click("cmdSalva"); });
+        EXPECT_THAT(desktop.finish(), Not(IsEmpty()));
+        EXPECT_THAT(toHex(file(specialePath)), AnyOf(toHex(before), toHex(after)));
+    });
 }
 
 TEST_F(SpecialFaults, AListOfStationsThatCannotBeReadIsToldAndTheEntryGoesOn) {

@@ -1,14 +1,12 @@
 // The disk fails or stops at every operation: each file is whole afterwards, old or new, and the clerk is told.
 
-#include "storage/failing_file_system.h"
+#include "support/fault_stage.h"
 #include "tariffe_desk.h"
 
 namespace vorbano::test {
 namespace {
 
 using ::testing::AnyOf;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
 
@@ -49,10 +47,9 @@ class TariffFaults : public TariffeSeggiTest, public ::testing::WithParamInterfa
     }
     int operationsOfASave() {
         prepare();
-        failing.failOnce(0);
-        click(GetParam().save);
-        return failing.operations();
+        return operationsOf(failing, [&] { click(GetParam().save); });
     }
+    static FaultCase inTable() { return {std::string("frmTariffeSeggi.") + GetParam().save, "two amounts"}; }
     void expectWhole() {
         EXPECT_THAT(toHex(file(GetParam().feeFile)), AnyOf(toHex(feesBefore()), toHex(feesAfter())));
         EXPECT_THAT(toHex(file(GetParam().quotaFile)), AnyOf(toHex(quotasBefore()), toHex(quotasAfter())));
@@ -70,13 +67,10 @@ TEST_P(TariffFaults, ASaveThatFailsAtOneOperationIsToldStaysOpenAndCanBeRepeated
     expectSaved();
     // Of each file: opened, searched, written, flushed.
     EXPECT_GE(operations, 8);
-    for (int n = 1; n <= operations; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(inTable(), operations, [&](int n) {
         prepare();
-        failing.failOnce(n);
-        click(GetParam().save);
-        failing.failOnce(0);
-        EXPECT_THAT(desktop.finish(), ElementsAre(HasSubstr("nobody expected the box \"Errore\"")));
+        failingOnce(failing, n, [&] { click(GetParam().save); });
+        EXPECT_THAT(desktop.finish(), onlyAnError());
         expectWhole();
         EXPECT_TRUE(ticked(GetParam().all));
         EXPECT_TRUE(enabled(GetParam().save));
@@ -86,37 +80,30 @@ TEST_P(TariffFaults, ASaveThatFailsAtOneOperationIsToldStaysOpenAndCanBeRepeated
         EXPECT_THAT(desktop.finish(), IsEmpty());
         expectSaved();
         EXPECT_FALSE(ticked(GetParam().all));
-    }
+    });
 }
 
 TEST_P(TariffFaults, ASaveThatStopsAndLosesThePowerLeavesWholeFiles) {
     const int operations = operationsOfASave();
-    for (int n = 1; n <= operations; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(inTable(), operations, [&](int n) {
         prepare();
-        failing.stopAt(n);
-        click(GetParam().save);
-        failing.stopAt(0);
-        files.cutPower();
+        cuttingPower(failing, files, n, [&] { click(GetParam().save); });
         EXPECT_THAT(desktop.finish(), Not(IsEmpty()));
         expectWhole();
-    }
+    });
 }
 
 TEST_P(TariffFaults, AChoiceThatFailsIsToldAndNothingIsChosen) {
     prepare();
     click(GetParam().save);
-    failing.failOnce(0);
-    choose(GetParam().type, "Europee");
-    const int operations = failing.operations();
+    const int operations = operationsOf(failing, [&] { choose(GetParam().type, "Europee"); });
     EXPECT_GE(operations, 4);
-    for (int n = 1; n <= operations; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation({std::string("frmTariffeSeggi.") + GetParam().type, "reads"}, operations, [&](int n) {
         failing.failOnce(0);
         choose(GetParam().type, "Comunali");
         failing.failOnce(n);
         choose(GetParam().type, "Europee");
-        EXPECT_THAT(desktop.finish(), ElementsAre(HasSubstr("nobody expected the box \"Errore\"")));
+        EXPECT_THAT(desktop.finish(), onlyAnError());
         EXPECT_EQ(text(GetParam().type), "");
         EXPECT_EQ(text(isNormal() ? "Frame1" : "Frame3"), "TARIFFE");
         for (const auto& name : isNormal() ? normalFields : specialFields) EXPECT_EQ(text(name), "") << name;
@@ -124,7 +111,7 @@ TEST_P(TariffFaults, AChoiceThatFailsIsToldAndNothingIsChosen) {
         tick(GetParam().all);
         EXPECT_FALSE(ticked(GetParam().all));
         EXPECT_FALSE(enabled(GetParam().save));
-    }
+    });
 }
 
 TEST_P(TariffFaults, AReadOnlyFileIsTold) {
