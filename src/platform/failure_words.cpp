@@ -1,5 +1,6 @@
 #include "platform/failure_words.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "platform/database.h"
@@ -46,6 +47,27 @@ std::string inItalian(const Error& error) {
             return "Il file " + subject + " non è stato scritto: il disco è pieno.";
     }
     return {};
+}
+
+std::string folderInItalian(const Error& error) {
+    const std::string folder = error.subject.empty() ? "dell'installazione" : error.subject;
+    switch (error.kind) {
+        case Failure::diskFull:
+            return "La cartella " + folder + " non è stata creata: il disco è pieno.";
+        case Failure::refused:
+            return "La cartella " + folder + " non può essere creata o tolta: controllare che non sia di sola lettura.";
+        default:
+            return "Il disco non ha completato l'operazione sulla cartella " + folder + ".";
+    }
+}
+
+std::string inOneBox(const std::vector<std::string>& sentences) {
+    constexpr std::size_t most = 5;
+    std::string text;
+    for (std::size_t at = 0; at < std::min(most, sentences.size()); ++at) text += (at == 0 ? "" : "\n") + sentences[at];
+    if (sentences.size() > most)
+        text += "\nAltri file non scritti: n. " + std::to_string(sentences.size() - most) + ".";
+    return text;
 }
 
 }  // namespace vorbano

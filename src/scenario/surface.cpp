@@ -15,6 +15,11 @@ void Surface::met(std::string_view kind, std::string_view what) {
         }
     }
     lines_.insert(std::move(line));
+    if (kind == "control") lastControl_ = what;
+}
+
+void Surface::wrote() {
+    if (!lastControl_.empty()) met("writes", lastControl_);
 }
 
 Surface::~Surface() {

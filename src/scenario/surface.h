@@ -8,7 +8,7 @@
 namespace vorbano {
 
 /// What a scenario met of the program: windows, controls gestured at, boxes, texts looked at, layouts, files looked
-/// into. The check of the surfaces adds them up over all scenarios.
+/// into, and which of the controls changed a file. The check of the surfaces adds them up over all scenarios.
 class Surface {
   public:
     /// Kept for `file`, one line each ("control frmCompStraord.cmdSalva", line ends as \n); kept nowhere when empty.
@@ -18,10 +18,13 @@ class Surface {
     ~Surface();
 
     void met(std::string_view kind, std::string_view what);
+    /// A file was changed by what the control does that was met last ("writes frmElimina.cmdElimina").
+    void wrote();
 
   private:
     std::filesystem::path file_;
     std::set<std::string> lines_;
+    std::string lastControl_;
 };
 
 }  // namespace vorbano

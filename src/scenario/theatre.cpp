@@ -14,6 +14,7 @@
 #include "scenario/out_folder.h"
 #include "scenario/window_play.h"
 #include "storage/disk_file_system.h"
+#include "storage/noticing_file_system.h"
 
 namespace vorbano {
 
@@ -32,8 +33,10 @@ std::string playIn(const fs::path& root, const Scenario& scenario, const Orders&
     const char* surfaceFile = std::getenv("VORBANO_SURFACE");
     Surface surface(surfaceFile == nullptr ? fs::path() : pathOf(surfaceFile));
     const Stage stage{files, staging, recordFiles(), stagingTables(), out, &surface};
+    NoticingFileSystem noted(
+        files, [](const Unwritten&) {}, [&surface] { surface.wrote(); });
     const Start start = [&](Desktop& desktop, PrintEngine& printing) {
-        Program(files, desktop, staging, places, printing).run();
+        Program(noted, desktop, staging, places, printing).run();
     };
     if (!orders.window) return playBare(scenario, stage, renderer, start);
     return playInWindows(scenario, stage, renderer, start, orders.watch ? Pace::slow : Pace::quick);

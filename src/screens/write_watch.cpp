@@ -10,20 +10,6 @@ namespace vorbano {
 
 namespace {
 
-std::string ofFolder(const Error& error) {
-    const std::string folder = error.subject.empty() ? "dell'installazione" : error.subject;
-    switch (error.kind) {
-        case Failure::diskFull:
-            return "La cartella " + folder + " non è stata creata: il disco è pieno.";
-        case Failure::refused:
-            return "La cartella " + folder + " non può essere creata o tolta: controllare che non sia di sola lettura.";
-        default:
-            return "Il disco non ha completato l'operazione sulla cartella " + folder + ".";
-    }
-}
-
-std::string inItalian(const Unwritten& one) { return one.isFolder ? ofFolder(one.error) : inItalian(one.error); }
-
 /// As a name of its own: not as the folder of another one.
 bool names(std::string_view text, std::string_view name) {
     if (name.empty()) return false;
@@ -39,14 +25,11 @@ bool names(std::string_view text, std::string_view name) {
 }  // namespace
 
 std::string inItalian(const std::vector<Unwritten>& unwritten) {
-    constexpr std::size_t most = 5;
-    std::string text;
-    for (std::size_t at = 0; at < std::min(most, unwritten.size()); ++at) {
-        text += (at == 0 ? "" : "\n") + inItalian(unwritten[at]);
+    std::vector<std::string> sentences;
+    for (const Unwritten& one : unwritten) {
+        sentences.push_back(one.isFolder ? folderInItalian(one.error) : inItalian(one.error));
     }
-    if (unwritten.size() > most)
-        text += "\nAltri file non scritti: n. " + std::to_string(unwritten.size() - most) + ".";
-    return text;
+    return inOneBox(sentences);
 }
 
 WriteWatch::WriteWatch(FileSystem& files, Desktop& desktop)

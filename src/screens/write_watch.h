@@ -8,7 +8,7 @@
 
 namespace vorbano {
 
-/// What could not be written, in Italian: one line a file or folder, and after the first five only how many more.
+/// What could not be written, for one box.
 [[nodiscard]] std::string inItalian(const std::vector<Unwritten>& unwritten);
 
 /// Many procedures of the office go on whatever happens to what they store. That they do, but the clerk hears of it:

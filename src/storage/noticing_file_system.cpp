@@ -10,39 +10,43 @@ bool isOfTheDisk(Failure kind) {
     return kind == Failure::diskFull || kind == Failure::refused || kind == Failure::device;
 }
 
-Result<> noticed(Result<> result, const NoticingFileSystem::Notice& notice, bool isFolder = false) {
-    if (!result && isOfTheDisk(result.error().kind)) notice({result.error(), isFolder});
-    return result;
-}
+}  // namespace
 
 class NoticingFile : public File {
   public:
-    NoticingFile(std::unique_ptr<File> real, const NoticingFileSystem::Notice& notice)
-        : real_(std::move(real)), notice_(notice) {}
+    NoticingFile(std::unique_ptr<File> real, const NoticingFileSystem::Notices& notices)
+        : real_(std::move(real)), notices_(notices) {}
 
     Result<std::size_t> read(std::uint64_t offset, std::span<std::byte> into) override {
         return real_->read(offset, into);
     }
     Result<> write(std::uint64_t offset, std::span<const std::byte> bytes) override {
-        return noticed(real_->write(offset, bytes), notice_);
+        return notices_.of(real_->write(offset, bytes));
     }
     Result<std::uint64_t> size() override { return real_->size(); }
-    Result<> flush() override { return noticed(real_->flush(), notice_); }
+    Result<> flush() override { return notices_.of(real_->flush()); }
 
   private:
     std::unique_ptr<File> real_;
-    const NoticingFileSystem::Notice& notice_;
+    const NoticingFileSystem::Notices& notices_;
 };
 
-}  // namespace
+Result<> NoticingFileSystem::Notices::of(Result<> result, bool isFolder) const {
+    if (result) {
+        if (changed && !isFolder) changed();
+    } else if (isOfTheDisk(result.error().kind)) {
+        unwritten({result.error(), isFolder});
+    }
+    return result;
+}
 
 Result<std::unique_ptr<File>> NoticingFileSystem::open(std::string_view path) {
     auto file = real_.open(path);
     if (!file) {
-        if (isOfTheDisk(file.error().kind)) notice_({file.error()});
+        if (isOfTheDisk(file.error().kind)) notices_.unwritten({file.error()});
         return file;
     }
-    return std::unique_ptr<File>(std::make_unique<NoticingFile>(std::move(*file), notice_));
+    return std::unique_ptr<File>(std::make_unique<NoticingFile>(std::move(*file), notices_));
 }
 
 Result<std::unique_ptr<File>> NoticingFileSystem::openExisting(std::string_view path) {
@@ -50,16 +54,14 @@ Result<std::unique_ptr<File>> NoticingFileSystem::openExisting(std::string_view 
 }
 
 Result<> NoticingFileSystem::replace(std::string_view from, std::string_view to) {
-    return noticed(real_.replace(from, to), notice_);
+    return notices_.of(real_.replace(from, to));
 }
 
-Result<> NoticingFileSystem::remove(std::string_view path) { return noticed(real_.remove(path), notice_); }
+Result<> NoticingFileSystem::remove(std::string_view path) { return notices_.of(real_.remove(path)); }
 
 Result<std::vector<Entry>> NoticingFileSystem::list(std::string_view folder) { return real_.list(folder); }
 
-Result<> NoticingFileSystem::makeFolder(std::string_view path) {
-    return noticed(real_.makeFolder(path), notice_, true);
-}
+Result<> NoticingFileSystem::makeFolder(std::string_view path) { return notices_.of(real_.makeFolder(path), true); }
 
 Result<> NoticingFileSystem::removeFolder(std::string_view path) {
     auto done = real_.removeFolder(path);
@@ -67,7 +69,7 @@ Result<> NoticingFileSystem::removeFolder(std::string_view path) {
     // A folder with something left in it stays, as it should.
     const auto content = real_.list(path);
     if (content && !content->empty()) return done;
-    return noticed(std::move(done), notice_, true);
+    return notices_.of(std::move(done), true);
 }
 
 }  // namespace vorbano

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "storage/file_system.h"
 
@@ -15,12 +16,14 @@ struct Unwritten {
 
 /// Forwards to another file system and tells of every file and folder that could not be written, made, replaced or
 /// removed because the disk is full, write-protected or broken, whatever the caller makes of the result. What is only
-/// not there, or not empty, is no such failure, and neither is one of reading.
+/// not there, or not empty, is no such failure, and neither is one of reading. Tells as well of each file that was
+/// written, replaced or removed, when asked to.
 class NoticingFileSystem : public FileSystem {
   public:
     using Notice = std::function<void(const Unwritten&)>;
 
-    NoticingFileSystem(FileSystem& real, Notice notice) : real_(real), notice_(std::move(notice)) {}
+    NoticingFileSystem(FileSystem& real, Notice notice, std::function<void()> changed = {})
+        : real_(real), notices_{std::move(notice), std::move(changed)} {}
 
     Result<std::unique_ptr<File>> open(std::string_view path) override;
     Result<std::unique_ptr<File>> openExisting(std::string_view path) override;
@@ -31,8 +34,16 @@ class NoticingFileSystem : public FileSystem {
     Result<> removeFolder(std::string_view path) override;
 
   private:
+    friend class NoticingFile;
+    struct Notices {
+        Notice unwritten;
+        std::function<void()> changed;
+        /// Passes a result on.
+        [[nodiscard]] Result<> of(Result<> result, bool isFolder = false) const;
+    };
+
     FileSystem& real_;
-    Notice notice_;
+    Notices notices_;
 };
 
 }  // namespace vorbano

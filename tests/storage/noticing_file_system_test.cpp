@@ -75,6 +75,25 @@ TEST_F(Noticing, PassesOverAFolderThatStaysBecauseSomethingIsInIt) {
     EXPECT_THAT(noticed, IsEmpty());
 }
 
+TEST(NoticingOfChanges, TellsOfWhatWasWrittenReplacedOrRemoved) {
+    MemoryFileSystem disk;
+    int changes = 0;
+    NoticingFileSystem files(
+        disk, [](const Unwritten&) { ADD_FAILURE(); }, [&changes] { ++changes; });
+    ASSERT_THAT(files.makeFolder("folder"), Succeeds());
+    auto file = files.open("folder/x");
+    ASSERT_THAT(file, Succeeds());
+    EXPECT_EQ(changes, 0) << "an opening is no change";
+    EXPECT_THAT((*file)->write(0, Noticing::bytes("x")), Succeeds());
+    EXPECT_EQ(changes, 1);
+    EXPECT_THAT(files.replace("folder/x", "folder/y"), Succeeds());
+    EXPECT_EQ(changes, 2);
+    EXPECT_THAT(files.remove("folder/x"), Fails(Failure::notFound));
+    EXPECT_EQ(changes, 2);
+    EXPECT_THAT(files.remove("folder/y"), Succeeds());
+    EXPECT_EQ(changes, 3);
+}
+
 TEST_F(Noticing, PassesOverWhatCouldNotBeRead) {
     ASSERT_TRUE(lay(disk, "x", "old"));
     auto file = files.open("x");
