@@ -2,20 +2,12 @@
 // fails is told, the deletion goes on; the same work once more ends what was begun.
 
 #include "cancella_desk.h"
-#include "storage/failing_file_system.h"
+#include "support/fault_stage.h"
 
 namespace vorbano::test {
 namespace {
 
 using ::testing::IsEmpty;
-
-/// Says yes to every question and remembers what was told.
-class AgreeingDesk : public ScriptedDesktop {
-  public:
-    Names told;  ///< titles
-    void tell(const Message& message) override { told.push_back(message.title); }
-    bool ask(const Message&) override { return true; }
-};
 
 const std::string seggi = std::string(216, 'S');
 const std::string rendi = std::string(152, 'R');
@@ -84,8 +76,7 @@ TEST_P(CancellaGuasti, TheSearchTellsAndOffersNothing) {
     const auto searching = [](Stage& stage) { stage.click(stage.screen->cmdRicerca); };
     const int all = operations([](Stage&) {}, searching);
     ASSERT_GE(all, 16) << "eight files are opened and measured";
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation({"frmCancella.cmdRicerca", "an election"}, all, [&](int n) {
         Stage stage;
         strike(stage, n);
         searching(stage);
@@ -97,7 +88,7 @@ TEST_P(CancellaGuasti, TheSearchTellsAndOffersNothing) {
         searching(stage);
         EXPECT_TRUE(stage.screen->Check4.enabled());
         EXPECT_TRUE(stage.screen->Check9.enabled());
-    }
+    });
 }
 
 TEST_P(CancellaGuasti, AGroupIsRemovedAsFarAsTheDiskAllows) {
@@ -109,8 +100,7 @@ TEST_P(CancellaGuasti, AGroupIsRemovedAsFarAsTheDiskAllows) {
     const auto deleting = [](Stage& stage) { stage.click(stage.screen->cmdEsegui); };
     const int all = operations(prepare, deleting);
     ASSERT_EQ(all, 9) << "each of five files is looked for, and the four that are there are removed";
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation({"frmCancella.cmdEsegui", "two groups"}, all, [&](int n) {
         Stage stage;
         prepare(stage);
         strike(stage, n);
@@ -128,7 +118,7 @@ TEST_P(CancellaGuasti, AGroupIsRemovedAsFarAsTheDiskAllows) {
         stage.failing.failOnce(0);
         deleting(stage);
         for (const std::string& name : order) EXPECT_EQ(stage.stored(name), noFile) << name;
-    }
+    });
 }
 
 TEST_P(CancellaGuasti, AnElectionIsRemovedAsFarAsTheDiskAllows) {
@@ -139,8 +129,7 @@ TEST_P(CancellaGuasti, AnElectionIsRemovedAsFarAsTheDiskAllows) {
     const auto deleting = [](Stage& stage) { stage.click(stage.screen->cmdEsegui); };
     const int all = operations(prepare, deleting);
     ASSERT_GE(all, 13) << "two groups, the list, at least six files, the folder";
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation({"frmCancella.cmdEsegui", "an election"}, all, [&](int n) {
         Stage stage;
         prepare(stage);
         strike(stage, n);
@@ -152,7 +141,7 @@ TEST_P(CancellaGuasti, AnElectionIsRemovedAsFarAsTheDiskAllows) {
         EXPECT_THAT(namesIn(stage.disk, "Elezioni/Europee"), IsEmpty());
         stage.click(stage.screen->cmdAnnulla);
         EXPECT_THAT(stage.screen->Combo2.items(), IsEmpty());
-    }
+    });
 }
 
 }  // namespace
