@@ -1,5 +1,8 @@
 #include "reports/frmTutteStampe.h"
 
+#include "reports/conguaglio.h"
+#include "reports/conguaglio_rendiconto.h"
+#include "reports/conguaglio_versamenti.h"
 #include "reports/contributi.h"
 #include "reports/determina.h"
 #include "reports/impegno.h"
@@ -27,6 +30,9 @@ frmTutteStampe::frmTutteStampe(const Workplace& workplace) : desk_(workplace) {
     cmdLRendiconto.clicked.calls(this, &frmTutteStampe::cmdLRendiconto_Click);
     cmdRendiconto.clicked.calls(this, &frmTutteStampe::cmdRendiconto_Click);
     cmdContributi.clicked.calls(this, &frmTutteStampe::cmdContributi_Click);
+    cmdConguaglio.clicked.calls(this, &frmTutteStampe::cmdConguaglio_Click);
+    cmdCongA.clicked.calls(this, &frmTutteStampe::cmdCongA_Click);
+    cmdCongRend.clicked.calls(this, &frmTutteStampe::cmdCongRend_Click);
     hangStations();
     asAtLoad();
 }
@@ -42,6 +48,9 @@ void frmTutteStampe::asAtLoad() {
     for (Button* command : overtimeCommands_) command->enabled = false;
     cmdRendiconto.enabled = false;
     cmdContributi.enabled = false;
+    for (Control* control : std::array<Control*, 4>{&cmdConguaglio, &cmdCongA, &cmdCongRend, &Frame3}) {
+        control->visible = false;
+    }
     for (HiddenLabel* caption :
          {&lblElezione, &lbldata, &lblAggio, &Label7, &Label8, &Label9, &Label10, &Label11, &Label12, &Label13}) {
         caption->text = std::string();
@@ -103,11 +112,21 @@ void frmTutteStampe::cmdLRendiconto_Click() {
     wellDone(printLRendiconto(desk_, election(), latePeriods(), heading()), desk_.desktop);
 }
 
-void frmTutteStampe::cmdRendiconto_Click() { wellDone(printRendiconto(desk_, election(), heading()), desk_.desktop); }
+void frmTutteStampe::cmdRendiconto_Click() {
+    wellDone(printRendiconto(desk_, election(), heading(), cmdConguaglio.visible()), desk_.desktop);
+}
 
 void frmTutteStampe::cmdContributi_Click() {
     wellDone(printContributi(desk_, election(), latePeriods(), heading()), desk_.desktop);
 }
+
+void frmTutteStampe::cmdConguaglio_Click() { wellDone(printConguaglio(desk_, election(), heading()), desk_.desktop); }
+
+void frmTutteStampe::cmdCongA_Click() {
+    wellDone(printContributiConguaglio(desk_, election(), heading()), desk_.desktop);
+}
+
+void frmTutteStampe::cmdCongRend_Click() { wellDone(printCongRend(desk_, election(), heading()), desk_.desktop); }
 
 int frmTutteStampe::chosenPeriod() const {
     const std::array boxes = {&Check6, &Check7, &Check8, &Check9, &Check10};

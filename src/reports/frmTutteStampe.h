@@ -38,6 +38,12 @@ struct frmTutteStampe {
     Button cmdRendiconto{form, "cmdRendiconto", "RENDICONTO"};
     Button cmdContributi{form, "cmdContributi", "CONTRIBUTI E RITENUTE (allegato A)"};
 
+    /// What an adjustment of rates adds; there when the election has one.
+    Frame Frame3{form, "Frame3", "Conguaglio"};
+    Button cmdConguaglio{Frame3, "cmdConguaglio", "CONGUAGLIO"};
+    Button cmdCongA{Frame3, "cmdCongA", "Contributi e ritenute conguaglio (Allegato A)"};
+    Button cmdCongRend{Frame3, "cmdCongRend", "CONGUAGLIO RENDICONTO"};
+
     /// Stations and round of the documents of the stations: two pairs, in each of which one clears the other.
     CheckBox Check1{form, "Check1", "Normali"};
     CheckBox Check2{form, "Check2", "Speciali"};
@@ -79,6 +85,9 @@ struct frmTutteStampe {
     void cmdLRendiconto_Click();
     void cmdRendiconto_Click();
     void cmdContributi_Click();
+    void cmdConguaglio_Click();
+    void cmdCongA_Click();
+    void cmdCongRend_Click();
     void cmdRSeggi_Click();
     void cmdSSeggio_Click();
     void cmdTSeggi_Click();
@@ -97,6 +106,7 @@ struct frmTutteStampe {
         std::string_view filled = {};
         std::vector<Control*> lights = {};  ///< enabled when the file is not empty
         std::vector<CheckBox*> ticks = {};  ///< ticked when the file is not empty
+        std::vector<Control*> shows = {};   ///< visible when the file is not empty
     };
     /// What the first record of a searched file says.
     struct Seen {
@@ -120,6 +130,8 @@ struct frmTutteStampe {
     void listStations(ComboBox& list, StationChoice choice);
     void printChosenStation(StationKind kind, ComboBox& list, const TextBox& count);
     [[nodiscard]] std::vector<SearchedFile> searchedFiles();
+    /// What is shown for an election with an adjustment.
+    [[nodiscard]] std::vector<Control*> adjustmentCommands();
     [[nodiscard]] Result<Seen> lookInto(const SearchedFile& file);
     void show(const SearchedFile& file, const Seen& seen);
     void showLatePeriods();

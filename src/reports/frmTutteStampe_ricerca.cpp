@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstring>
 
+#include "records/adjustment_records.h"
 #include "reports/frmTutteStampe.h"
 #include "screens/well_done.h"
 #include "storage/record_file.h"
@@ -35,7 +36,7 @@ std::vector<frmTutteStampe::SearchedFile> frmTutteStampe::searchedFiles() {
          .width = sizeof(EmployeeRecord),
          .lights = {&cmdImpegno, &cmdDetermina, &cmdLRendiconto, &Check5, &Check6, &Check7, &Check8},
          .ticks = {&Check5}},
-        {.name = "Congs.vbn", .width = 145},
+        {.name = congsFile, .width = sizeof(AdjustmentRecord), .shows = adjustmentCommands()},
         {.name = "Seggi.vbn",
          .width = 216,
          .stations = &Label8,
@@ -51,6 +52,13 @@ std::vector<frmTutteStampe::SearchedFile> frmTutteStampe::searchedFiles() {
          .filled = "0",
          .lights = {&Check2}},
     };
+}
+
+/// The statement of an adjustment is deliberately not offered in a year that ends in 9.
+std::vector<Control*> frmTutteStampe::adjustmentCommands() {
+    std::vector<Control*> commands = {&Frame3, &cmdConguaglio, &cmdCongA};
+    if (!election().date.ends_with('9')) commands.push_back(&cmdCongRend);
+    return commands;
 }
 
 /// Opening a file that the election does not have leaves an empty one behind, here as everywhere.
@@ -115,6 +123,7 @@ void frmTutteStampe::show(const SearchedFile& file, const Seen& seen) {
     if (file.stations != nullptr) file.stations->text = std::to_string(seen.stations);
     for (Control* control : file.lights) control->enabled = true;
     for (CheckBox* box : file.ticks) box->checked = true;
+    for (Control* control : file.shows) control->visible = true;
 }
 
 /// Before 2014 some elections had a fourth and a fifth period.

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "reports/conguaglio_rendiconto.h"
 #include "reports/rendiconto_layout.h"
 #include "reports/rendiconto_row.h"
 #include "statement/station_quotas.h"
@@ -58,7 +59,7 @@ void addHeading(Row& row, const Election& election, const Row& heading) {
 
 }  // namespace
 
-Result<> printRendiconto(const Workplace& desk, const Election& election, const Heading& heading) {
+Result<> printRendiconto(const Workplace& desk, const Election& election, const Heading& heading, bool adjusted) {
     const auto rendi = onlyRecordOf<RendiRecord>(desk.files, election, rendiFile);
     if (!rendi) return rendi.error();
     if (!*rendi) return {};
@@ -70,6 +71,9 @@ Result<> printRendiconto(const Workplace& desk, const Election& election, const 
     }
     auto row = statementRow(desk.files, election, path, **rendi);
     if (!row) return row.error();
+    if (adjusted) {
+        if (auto added = addAdjustment(desk.files, election, *row); !added) return added;
+    }
     const auto headingOf = headingRow(desk.files, heading);
     if (!headingOf) return headingOf.error();
     addHeading(*row, election, *headingOf);

@@ -10,8 +10,8 @@
 namespace vorbano {
 
 /// Fills the tables, shows the preview, clears the tables. Writes no record file, and does nothing at all when the
-/// election has no statement. The amounts of an adjustment of rates are not in the row: the reports of the adjustment
-/// put them there.
-[[nodiscard]] Result<> printRendiconto(const Workplace& desk, const Election& election, const Heading& heading);
+/// election has no statement. `adjusted`: the election has an adjustment of rates, whose amounts the row then has too.
+[[nodiscard]] Result<> printRendiconto(const Workplace& desk, const Election& election, const Heading& heading,
+                                       bool adjusted = false);
 
 }  // namespace vorbano
