@@ -2,75 +2,45 @@
 // old or new; what failed is told, and the same command once more brings everything to its end, nothing twice.
 
 #include "authorisation_desk.h"
-#include "storage/failing_file_system.h"
+#include "support/fault_stage.h"
 
 namespace vorbano::test {
 namespace {
 
-using ::testing::AnyOf;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-/// Says yes to every question and remembers the titles of what was told.
-class AgreeingDesk : public ScriptedDesktop {
-  public:
-    std::vector<std::string> told;
-    void tell(const Message& message) override { told.push_back(message.title); }
-    bool ask(const Message&) override { return true; }
-};
-
 /// One fresh disk, desk and screen.
-struct Stage {
-    MemoryFileSystem disk;
-    FailingFileSystem failing{disk};
-    AgreeingDesk desk;
-    MemoryDatabase staging{stagingTables()};
-    MemoryDatabase places{placeTables()};
-    RecordingPrintEngine printing;
-    OpenedScreens screens;
-    std::unique_ptr<frmCompStraord> screen;
-
+struct Stage : FaultStage<frmCompStraord> {
     Stage() {
         EXPECT_TRUE(lay(disk, "Params/PmDip.dat", pmDipBytes()));
         EXPECT_TRUE(lay(disk, "Params/Conprev.dat", conprevBytes()));
         EXPECT_TRUE(lay(disk, "Params/Dipend.dat", padded("VERDI ALDO", 60)));
     }
-    ~Stage() { desk.shut(screen->form); }
-    void open() {
-        if (screen) desk.shut(screen->form);
-        screen = std::make_unique<frmCompStraord>(Workplace{failing, desk, staging, printing, screens, places});
-        desk.open(screen->form);
-    }
-    Control& control(const std::string& name) { return *screen->form.find(name); }
-    Operator clerk() { return Operator(screen->form); }
-    void type(const std::string& name, const char* words) {
-        EXPECT_EQ(clerk().type(control(name), words), Refusal::none) << name;
-    }
-    void click(const char* name) { EXPECT_EQ(clerk().click(control(name)), Refusal::none) << name; }
     /// The next employee up to "Salva": 10, 4, 2 hours and 5, 3, 1, grade D3.
     void enterEmployee(const char* name) {
         type("txtNameDip", name);
         enterHours("1", {"10", "4", "2"});
         enterHours("2", {"5", "3", "1"});
         click("CmdRiepilogo");
-        EXPECT_EQ(clerk().tick(control("Check2"), true), Refusal::none);
+        tick("Check2");
         click("cmdTariffe");
-        EXPECT_EQ(clerk().pick(control("MSFlexGrid1"), 4, 0), Refusal::none);
+        pick("MSFlexGrid1", 4, 0);
     }
     void enterHours(const std::string& period, std::array<const char*, 3> hours) {
         type("txtAutFer" + period + "Per", hours[0]);
         type("txtAutFes" + period + "Per", hours[1]);
         type("txtNf" + period + "Per", hours[2]);
-        clerk().leave();
+        leave();
     }
     void identify(const char* number) {
-        EXPECT_EQ(clerk().choose(control("Combo1"), "Europee"), Refusal::none);
+        choose("Combo1", "Europee");
         type("txtDataEle", "09/06/24");
         type("txtNumDip", number);
     }
     /// The name of the first employee of six.
     void toName() {
-        open();
+        openScreen();
         identify("6");
         click("cmdAttiva");
         type("txtDataDecreto", "15/04/24");
@@ -98,16 +68,16 @@ struct Stage {
 struct Command {
     const char* name;
     void (*prepare)(Stage&);
-    void (*act)(Stage&);
-    /// The command can be given (again).
-    bool (*canAct)(Stage&);
+    const char* button;
     struct Files {
         std::string employees, meirin, duedate, names;
     } before, after;
+    void act(Stage& stage) const { stage.click(button); }
+    /// The command can be given (again).
+    [[nodiscard]] bool canAct(Stage& stage) const { return stage.operable(button); }
+    [[nodiscard]] FaultCase inTable() const { return {std::string("frmCompStraord.") + button, name}; }
 };
 void PrintTo(const Command& command, std::ostream* out) { *out << command.name; }
-
-bool salvaIsOpen(Stage& stage) { return stage.control("cmdSalva").isOperable(); }
 
 std::string onlyVerdi() { return padded("VERDI ALDO", 60); }
 std::string twoNames() { return onlyVerdi() + padded("PRIMO", 60); }
@@ -133,8 +103,7 @@ const std::vector<Command>& commands() {
              stage.toName();
              stage.enterEmployee("PRIMO");
          },
-         [](Stage& stage) { stage.click("cmdSalva"); },
-         salvaIsOpen,
+         "cmdSalva",
          {std::string(noFile), std::string(noFile), std::string(noFile), onlyVerdi()},
          {authorisedBytes(1, "PRIMO"), freshMeirin(), acts, twoNames()}},
         {"TheSecondSalva",
@@ -145,40 +114,36 @@ const std::vector<Command>& commands() {
              stage.click("cmdAggiungi");
              stage.enterEmployee("SECONDO");
          },
-         [](Stage& stage) { stage.click("cmdSalva"); },
-         salvaIsOpen,
+         "cmdSalva",
          {authorisedBytes(1, "PRIMO"), freshMeirin(), acts, twoNames()},
          {two(), freshMeirin(), acts, threeNames()}},
         {"ANewNumber",
          [](Stage& stage) {
              stage.storeTwo();
-             EXPECT_EQ(stage.clerk().menu(stage.control("mnuNumero")), Refusal::none);
+             stage.menu("mnuNumero");
              stage.type("txtNumDip", "9");
          },
-         [](Stage& stage) { stage.click("cmdAttiva"); },
-         [](Stage& stage) { return stage.control("cmdAttiva").isOperable(); },
+         "cmdAttiva",
          {two(), freshMeirin(), acts, threeNames()},
          {two(9), freshMeirin({40, 13, 0}, {360, 120, 0}), acts, threeNames()}},
         {"NewDates",
          [](Stage& stage) {
              stage.storeTwo();
-             EXPECT_EQ(stage.clerk().menu(stage.control("mnuDate")), Refusal::none);
+             stage.menu("mnuDate");
              stage.type("txtDueal", "24/05/24");
          },
-         [](Stage& stage) { stage.click("Command1"); },
-         [](Stage& stage) { return stage.control("Command1").isOperable(); },
+         "Command1",
          {two(), freshMeirin(), acts, threeNames()},
          // Five days of the second period: 40 hours for the staff, 7 on average.
          {twoWithNewDates(), freshMeirin({40, 7, 0}, {240, 40, 0}), acts, threeNames()}},
         {"ACorrectedName",
          [](Stage& stage) {
              stage.storeTwo();
-             EXPECT_EQ(stage.clerk().menu(stage.control("mnuDipendenti")), Refusal::none);
-             EXPECT_EQ(stage.clerk().chooseIndex(stage.control("List1"), 1), Refusal::none);
+             stage.menu("mnuDipendenti");
+             stage.chooseIndex("List1", 1);
              stage.type("txtNominativo", "PRIMA");
          },
-         [](Stage& stage) { stage.click("Command2"); },
-         [](Stage& stage) { return stage.control("Command2").isOperable(); },
+         "Command2",
          {two(), freshMeirin(), acts, threeNames()},
          {two(), freshMeirin(), acts, onlyVerdi() + padded("PRIMA", 60) + padded("SECONDO", 60)}},
     };
@@ -191,9 +156,7 @@ class Guasti : public ::testing::TestWithParam<Command> {
         Stage stage;
         GetParam().prepare(stage);
         expectFiles(stage, GetParam().before);
-        stage.failing.failOnce(0);
-        GetParam().act(stage);
-        const int seen = stage.failing.operations();
+        const int seen = operationsOf(stage.failing, [&] { GetParam().act(stage); });
         expectFiles(stage, GetParam().after);
         return seen;
     }
@@ -207,9 +170,6 @@ class Guasti : public ::testing::TestWithParam<Command> {
     static void expectWhole(Stage& stage) {
         const Command::Files& before = GetParam().before;
         const Command::Files& after = GetParam().after;
-        const auto oldOrNew = [](const std::string& was, const std::string& is) {
-            return AnyOf(was, is, was == noFile ? std::string() : was);
-        };
         EXPECT_THAT(stage.stored("09-06-24.vbn"), oldOrNew(before.employees, after.employees));
         EXPECT_THAT(stage.stored("Meirin.vbn"), oldOrNew(before.meirin, after.meirin));
         EXPECT_THAT(stage.stored("Duedate.vbn"), oldOrNew(before.duedate, after.duedate));
@@ -220,14 +180,11 @@ class Guasti : public ::testing::TestWithParam<Command> {
 TEST_P(Guasti, OneFailureIsToldAndTheCommandGivenAgainEndsIt) {
     const int all = operations();
     ASSERT_GE(all, 3);
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(GetParam().inTable(), all, [&](int n) {
         Stage stage;
         GetParam().prepare(stage);
         stage.desk.told.clear();
-        stage.failing.failOnce(n);
-        GetParam().act(stage);
-        stage.failing.failOnce(0);
+        failingOnce(stage.failing, n, [&] { GetParam().act(stage); });
         expectWhole(stage);
         if (GetParam().canAct(stage)) {
             EXPECT_FALSE(stage.desk.told.empty()) << "it failed without a word";
@@ -236,42 +193,34 @@ TEST_P(Guasti, OneFailureIsToldAndTheCommandGivenAgainEndsIt) {
         }
         expectFiles(stage, GetParam().after);
         EXPECT_FALSE(GetParam().canAct(stage));
-    }
+    });
 }
 
 TEST_P(Guasti, APowerCutLeavesEachFileOldOrNew) {
     const int all = operations();
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(GetParam().inTable(), all, [&](int n) {
         Stage stage;
         GetParam().prepare(stage);
-        stage.failing.stopAt(n);
-        GetParam().act(stage);
-        stage.failing.stopAt(0);
-        stage.disk.cutPower();
+        cuttingPower(stage.failing, stage.disk, n, [&] { GetParam().act(stage); });
         expectWhole(stage);
-    }
+    });
 }
 
 TEST_P(Guasti, AfterAPowerCutTheElectionIsTakenUpAgain) {
     const int all = operations();
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(GetParam().inTable(), all, [&](int n) {
         Stage stage;
         GetParam().prepare(stage);
-        stage.failing.stopAt(n);
-        GetParam().act(stage);
-        stage.failing.stopAt(0);
-        stage.disk.cutPower();
+        cuttingPower(stage.failing, stage.disk, n, [&] { GetParam().act(stage); });
         stage.desk.told.clear();
-        stage.open();
+        stage.openScreen();
         stage.identify("9");
         stage.click("cmdAttiva");
         EXPECT_THAT(stage.desk.told, IsEmpty());
         const bool isNew = stage.stored("09-06-24.vbn").size() < 301;
         EXPECT_EQ(stage.control("Frame9").isVisible(), isNew) << "without an employee the acts are asked for again";
         EXPECT_EQ(stage.control("txtNameDip").isOperable(), !isNew);
-    }
+    });
 }
 
 INSTANTIATE_TEST_SUITE_P(Of, Guasti, ::testing::ValuesIn(commands()),
@@ -281,40 +230,38 @@ INSTANTIATE_TEST_SUITE_P(Of, Guasti, ::testing::ValuesIn(commands()),
 class Letture : public ::testing::Test {
   protected:
     template <class Prepare, class Act, class Through>
-    static void everyFailureIsTold(const Prepare& prepare, const Act& act, const Through& isThrough) {
+    static void everyFailureIsTold(const char* command, const Prepare& prepare, const Act& act,
+                                   const Through& isThrough) {
         int all = 0;
         {
             Stage stage;
             prepare(stage);
-            stage.failing.failOnce(0);
-            act(stage);
-            all = stage.failing.operations();
+            all = operationsOf(stage.failing, [&] { act(stage); });
             ASSERT_TRUE(isThrough(stage));
         }
         ASSERT_GE(all, 2);
-        for (int n = 1; n <= all; ++n) {
-            SCOPED_TRACE(n);
+        const FaultCase reading{std::string("frmCompStraord.") + command, "reads"};
+        atEveryOperation(reading, all, [&](int n) {
             Stage stage;
             prepare(stage);
             const std::string before = stage.stored("09-06-24.vbn");
             stage.desk.told.clear();
-            stage.failing.failOnce(n);
-            act(stage);
-            stage.failing.failOnce(0);
+            failingOnce(stage.failing, n, [&] { act(stage); });
             EXPECT_EQ(stage.stored("09-06-24.vbn"), before);
-            if (isThrough(stage)) continue;
+            if (isThrough(stage)) return;
             EXPECT_THAT(stage.desk.told, ElementsAre("Errore"));
             act(stage);
             EXPECT_TRUE(isThrough(stage));
-        }
+        });
     }
 };
 
 TEST_F(Letture, AStoredElectionIsNeverTakenForANewOne) {
     everyFailureIsTold(
+        "cmdAttiva",
         [](Stage& stage) {
             stage.storeTwo();
-            stage.open();
+            stage.openScreen();
             stage.identify("6");
         },
         [](Stage& stage) {
@@ -326,6 +273,7 @@ TEST_F(Letture, AStoredElectionIsNeverTakenForANewOne) {
 
 TEST_F(Letture, HoursAreNotAcceptedAgainstAPoolThatCouldNotBeRead) {
     everyFailureIsTold(
+        "txtNf1Per",
         [](Stage& stage) {
             stage.storeTwo();
             stage.click("cmdAggiungi");
@@ -338,33 +286,34 @@ TEST_F(Letture, HoursAreNotAcceptedAgainstAPoolThatCouldNotBeRead) {
 }
 
 TEST_F(Letture, ContinuaWaitsForTheDisk) {
-    everyFailureIsTold([](Stage& stage) { stage.storeTwo(); }, [](Stage& stage) { stage.click("cmdAggiungi"); },
-                       [](Stage& stage) { return stage.control("txtNameDip").isOperable(); });
+    everyFailureIsTold(
+        "cmdAggiungi", [](Stage& stage) { stage.storeTwo(); }, [](Stage& stage) { stage.click("cmdAggiungi"); },
+        [](Stage& stage) { return stage.control("txtNameDip").isOperable(); });
 }
 
 TEST_F(Letture, TheListOfNamesWaitsForTheDisk) {
     everyFailureIsTold(
-        [](Stage& stage) { stage.open(); },
-        [](Stage& stage) { EXPECT_EQ(stage.clerk().menu(stage.control("mnuDipendenti")), Refusal::none); },
+        "mnuDipendenti", [](Stage& stage) { stage.openScreen(); }, [](Stage& stage) { stage.menu("mnuDipendenti"); },
         [](Stage& stage) { return stage.control("Frame7").isVisible(); });
 }
 
 TEST_F(Letture, AChosenNameWaitsForTheDisk) {
     everyFailureIsTold(
-        [](Stage& stage) { stage.toName(); },
-        [](Stage& stage) { EXPECT_EQ(stage.clerk().chooseIndex(stage.control("cboDipendenti"), 0), Refusal::none); },
+        "cboDipendenti", [](Stage& stage) { stage.toName(); },
+        [](Stage& stage) { stage.chooseIndex("cboDipendenti", 0); },
         [](Stage& stage) { return stage.screen->txtNameDip.text() == "VERDI ALDO"; });
 }
 
 TEST_F(Letture, TheTariffsWaitForTheDisk) {
     everyFailureIsTold(
+        "cmdTariffe",
         [](Stage& stage) {
             stage.toName();
             stage.type("txtNameDip", "PRIMO");
             stage.enterHours("1", {"10", "4", "2"});
             stage.enterHours("2", {"5", "3", "1"});
             stage.click("CmdRiepilogo");
-            EXPECT_EQ(stage.clerk().tick(stage.control("Check2"), true), Refusal::none);
+            stage.tick("Check2");
         },
         [](Stage& stage) { stage.click("cmdTariffe"); },
         [](Stage& stage) { return stage.screen->MSFlexGrid1.rows() == 32; });
@@ -372,24 +321,21 @@ TEST_F(Letture, TheTariffsWaitForTheDisk) {
 
 TEST_F(Letture, PercentagesThatCannotBeReadAreNotTakenForMissing) {
     Stage counting;
-    counting.failing.failOnce(0);
-    counting.open();
-    const int all = counting.failing.operations();
+    const int all = operationsOf(counting.failing, [&] { counting.openScreen(); });
     ASSERT_GE(all, 4);
     int told = 0;
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation({"frmCompStraord", "opens"}, all, [&](int n) {
         Stage stage;
         stage.failing.failOnce(n);
-        stage.open();
+        stage.openScreen();
         if (stage.screen->Label37.text() == "23,80") {
             EXPECT_THAT(stage.desk.told, IsEmpty());
-            continue;
+            return;
         }
         EXPECT_THAT(stage.desk.told, ElementsAre("Errore"));
         EXPECT_FALSE(stage.screen->mnuModifica.enabled());
         ++told;
-    }
+    });
     EXPECT_GE(told, 3);
 }
 

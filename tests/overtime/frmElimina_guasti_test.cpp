@@ -3,7 +3,7 @@
 // is removed.
 
 #include "removal_desk.h"
-#include "storage/failing_file_system.h"
+#include "support/fault_stage.h"
 
 namespace vorbano::test {
 namespace {
@@ -13,18 +13,6 @@ using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::Not;
-
-/// Says yes to every question and remembers what was told.
-class AgreeingDesk : public ScriptedDesktop {
-  public:
-    std::vector<std::string> told;  ///< titles
-    std::vector<std::string> words;
-    void tell(const Message& message) override {
-        told.push_back(message.title);
-        words.push_back(message.text);
-    }
-    bool ask(const Message&) override { return true; }
-};
 
 /// An election, the staff before, and what the removal of the second leaves.
 struct Case {
@@ -44,37 +32,18 @@ Case ofFivePeriods() { return {"FivePeriods", fivePeriods(), fivePeriodsOfFive()
 Case ofThreePeriods() { return {"ThreePeriods", europee2024(), europee2024OfSix()}; }
 
 /// One fresh disk with the election, desk and screen.
-struct Stage {
+struct Stage : FaultStage<frmElimina> {
     const Case& election;
-    MemoryFileSystem disk;
-    FailingFileSystem failing{disk};
-    AgreeingDesk desk;
-    MemoryDatabase staging{stagingTables()};
-    MemoryDatabase places{placeTables()};
-    RecordingPrintEngine printing;
-    OpenedScreens screens;
-    std::unique_ptr<frmElimina> screen;
 
     explicit Stage(const Case& laid) : election(laid) {
         layElection(disk, election.before, election.staff());
-        open();
+        openScreen();
     }
-    Stage(const Stage&) = delete;
-    Stage& operator=(const Stage&) = delete;
-    ~Stage() { desk.shut(screen->form); }
-    void open() {
-        if (screen) desk.shut(screen->form);
-        screen = std::make_unique<frmElimina>(Workplace{failing, desk, staging, printing, screens, places});
-        desk.open(screen->form);
-    }
-    Control& control(const std::string& name) { return *screen->form.find(name); }
-    Operator clerk() { return Operator(screen->form); }
     void identify() {
-        EXPECT_EQ(clerk().choose(control("Combo1"), election.before.type), Refusal::none);
-        EXPECT_EQ(clerk().type(control("txtDataEle"), election.before.date), Refusal::none);
+        choose("Combo1", election.before.type);
+        type("txtDataEle", election.before.date);
     }
-    void click(const char* name) { EXPECT_EQ(clerk().click(control(name)), Refusal::none) << name; }
-    void chooseSecond() { EXPECT_EQ(clerk().chooseIndex(control("List1"), 1), Refusal::none); }
+    void chooseSecond() { chooseIndex("List1", 1); }
     /// Up to the removal of the second.
     void prepare() {
         identify();
@@ -122,25 +91,22 @@ class EliminaGuasti : public ::testing::TestWithParam<Case> {
     static int operationsOfRemoval() {
         Stage stage(GetParam());
         stage.prepare();
-        stage.failing.failOnce(0);
-        stage.click("cmdElimina");
+        const int all = operationsOf(stage.failing, [&] { stage.click("cmdElimina"); });
         EXPECT_THAT(stage.desk.told, ElementsAre("Cancellazione Dipendente"));
         expectFiles(stage, after(stage));
-        return stage.failing.operations();
+        return all;
     }
+    static FaultCase inTable() { return {"frmElimina.cmdElimina", GetParam().name}; }
 };
 
 TEST_P(EliminaGuasti, OneFailureIsToldAndTheCommandGivenAgainEndsIt) {
     const int all = operationsOfRemoval();
     ASSERT_GE(all, 12);
     int failed = 0;
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(inTable(), all, [&](int n) {
         Stage stage(GetParam());
         stage.prepare();
-        stage.failing.failOnce(n);
-        stage.click("cmdElimina");
-        stage.failing.failOnce(0);
+        failingOnce(stage.failing, n, [&] { stage.click("cmdElimina"); });
         expectWhole(stage);
         if (!stage.isDone()) {
             ++failed;
@@ -152,46 +118,39 @@ TEST_P(EliminaGuasti, OneFailureIsToldAndTheCommandGivenAgainEndsIt) {
         EXPECT_TRUE(stage.isDone());
         EXPECT_THAT(stage.desk.told, Contains("Cancellazione Dipendente"));
         expectFiles(stage, after(stage));
-    }
+    });
     EXPECT_GE(failed, 8);
 }
 
 TEST_P(EliminaGuasti, AfterAFailureANewSearchFindsTheElectionOldOrNew) {
     const int all = operationsOfRemoval();
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(inTable(), all, [&](int n) {
         Stage stage(GetParam());
         stage.prepare();
-        stage.failing.failOnce(n);
-        stage.click("cmdElimina");
-        stage.failing.failOnce(0);
-        if (stage.isDone()) continue;
+        failingOnce(stage.failing, n, [&] { stage.click("cmdElimina"); });
+        if (stage.isDone()) return;
         stage.click("cmdRiavvia");
         stage.identify();
         stage.click("cmdRicerca");
         expectFiles(stage, stage.showsSmallerStaff() ? after(stage) : before(stage));
         EXPECT_TRUE(stage.control("List1").isOperable());
-    }
+    });
 }
 
 TEST_P(EliminaGuasti, AfterAPowerCutEachFileIsWholeAndTheSearchFindsOneState) {
     const int all = operationsOfRemoval();
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(inTable(), all, [&](int n) {
         Stage stage(GetParam());
         stage.prepare();
-        stage.failing.stopAt(n);
-        stage.click("cmdElimina");
-        stage.failing.stopAt(0);
-        stage.disk.cutPower();
+        cuttingPower(stage.failing, stage.disk, n, [&] { stage.click("cmdElimina"); });
         expectWhole(stage);
         stage.desk.told.clear();
-        stage.open();
+        stage.openScreen();
         stage.identify();
         stage.click("cmdRicerca");
         EXPECT_THAT(stage.desk.told, IsEmpty());
         expectFiles(stage, stage.showsSmallerStaff() ? after(stage) : before(stage));
-    }
+    });
 }
 
 TEST_P(EliminaGuasti, ADiskThatTakesNothingMoreIsToldAndNothingIsLost) {
@@ -211,45 +170,42 @@ INSTANTIATE_TEST_SUITE_P(Of, EliminaGuasti, ::testing::Values(ofFivePeriods(), o
 
 /// What only reads: a failure is told and leaves the screen where it was.
 template <class Prepare, class Act, class Through>
-void everyFailureIsTold(const Prepare& prepare, const Act& act, const Through& isThrough) {
+void everyFailureIsTold(const char* command, const Prepare& prepare, const Act& act, const Through& isThrough) {
     const Case election = ofFivePeriods();
     int all = 0;
     {
         Stage stage(election);
         prepare(stage);
-        stage.failing.failOnce(0);
-        act(stage);
-        all = stage.failing.operations();
+        all = operationsOf(stage.failing, [&] { act(stage); });
         ASSERT_TRUE(isThrough(stage));
     }
     ASSERT_GE(all, 2);
     int failed = 0;
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation({std::string("frmElimina.") + command, "reads"}, all, [&](int n) {
         Stage stage(election);
         prepare(stage);
-        stage.failing.failOnce(n);
-        act(stage);
-        stage.failing.failOnce(0);
+        failingOnce(stage.failing, n, [&] { act(stage); });
         expectFiles(stage, before(stage));
-        if (isThrough(stage)) continue;
+        if (isThrough(stage)) return;
         ++failed;
         EXPECT_THAT(stage.desk.told, ElementsAre("Errore"));
         EXPECT_THAT(stage.desk.words, Not(Contains("Tipo di elezione inesistente")));
         EXPECT_FALSE(stage.control("cmdElimina").isOperable());
         act(stage);
         EXPECT_TRUE(isThrough(stage));
-    }
+    });
     EXPECT_GE(failed, 2);
 }
 
 TEST(EliminaLetture, AStoredElectionIsNeverTakenForAMissingOne) {
-    everyFailureIsTold([](Stage& stage) { stage.identify(); }, [](Stage& stage) { stage.click("cmdRicerca"); },
-                       [](Stage& stage) { return stage.screen->List1.items().size() == 6; });
+    everyFailureIsTold(
+        "cmdRicerca", [](Stage& stage) { stage.identify(); }, [](Stage& stage) { stage.click("cmdRicerca"); },
+        [](Stage& stage) { return stage.screen->List1.items().size() == 6; });
 }
 
 TEST(EliminaLetture, AChosenNameWaitsForTheDisk) {
     everyFailureIsTold(
+        "List1",
         [](Stage& stage) {
             stage.identify();
             stage.click("cmdRicerca");

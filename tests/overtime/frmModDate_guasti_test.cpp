@@ -1,7 +1,7 @@
 // The disk fails once or stops for good at every operation of every command of the screen of the dates.
 
 #include "mod_date_desk.h"
-#include "storage/failing_file_system.h"
+#include "support/fault_stage.h"
 
 namespace vorbano::test::moddate {
 namespace {
@@ -13,13 +13,6 @@ using ::testing::IsEmpty;
 const std::string folder13 = "Elezioni/Europee_Comunali/26-05-13/";
 constexpr Span fourth = {"21-05-13", "26-05-13"};
 constexpr std::array<Span, 3> early = {{{"27-03-13", "25-04-13"}, {"26-04-13", "10-05-13"}, {"11-05-13", "20-05-13"}}};
-
-/// Remembers the titles of what was told.
-class NotingDesk : public ScriptedDesktop {
-  public:
-    std::vector<std::string> told;
-    void tell(const Message& message) override { told.push_back(message.title); }
-};
 
 /// All files of the election.
 struct Files {
@@ -40,16 +33,7 @@ Files laidFiles(const LaidPools& pools, const Span& fifth, std::array<int, 5> av
 }
 
 /// One fresh disk, desk and screen. A fifth period is there and left out.
-struct Stage {
-    MemoryFileSystem disk;
-    FailingFileSystem failing{disk};
-    NotingDesk desk;
-    MemoryDatabase staging{stagingTables()};
-    MemoryDatabase places{placeTables()};
-    RecordingPrintEngine printing;
-    OpenedScreens screens;
-    std::unique_ptr<frmModDate> screen;
-
+struct Stage : FaultStage<frmModDate> {
     Stage() {
         const Files files = before();
         EXPECT_TRUE(lay(disk, folder13 + "26-05-13.vbn", files.employees));
@@ -58,26 +42,13 @@ struct Stage {
         EXPECT_TRUE(lay(disk, folder13 + "Duedate.vbn", files.duedate));
         EXPECT_TRUE(lay(disk, "Params/Ente.dat", padded("Lesa", 60)));
     }
-    ~Stage() { desk.shut(screen->form); }
 
     static Files before() {
         return laidFiles({60, 180, 366, 3}, fourth, {60, 30, 20, 12, 0}, {180, 90, 60, 36, 0}, "25-03-1326-03-13");
     }
-    void open() {
-        if (screen) desk.shut(screen->form);
-        screen = std::make_unique<frmModDate>(Workplace{failing, desk, staging, printing, screens, places});
-        desk.open(screen->form);
-    }
-    Control& control(const char* name) { return *screen->form.find(name); }
-    Operator clerk() { return Operator(screen->form); }
-    void type(const char* name, const char* words) {
-        EXPECT_EQ(clerk().type(control(name), words), Refusal::none) << name;
-    }
-    void tick(const char* name) { EXPECT_EQ(clerk().tick(control(name), true), Refusal::none) << name; }
-    void click(const char* name) { EXPECT_EQ(clerk().click(control(name)), Refusal::none) << name; }
     void identify() {
-        open();
-        EXPECT_EQ(clerk().choose(control("Combo1"), "Europee_Comunali"), Refusal::none);
+        openScreen();
+        choose("Combo1", "Europee_Comunali");
         type("txtDataEle", "26/05/13");
     }
     void search() {
@@ -94,6 +65,7 @@ struct Command {
     const char* button;
     bool (*isDone)(Stage&);
     Files after;
+    [[nodiscard]] FaultCase inTable() const { return {std::string("frmModDate.") + button, name}; }
 };
 void PrintTo(const Command& command, std::ostream* out) { *out << command.name; }
 
@@ -137,9 +109,7 @@ class ModDateGuasti : public ::testing::TestWithParam<Command> {
     static int operations() {
         Stage stage;
         GetParam().prepare(stage);
-        stage.failing.failOnce(0);
-        stage.click(GetParam().button);
-        const int seen = stage.failing.operations();
+        const int seen = operationsOf(stage.failing, [&] { stage.click(GetParam().button); });
         EXPECT_TRUE(GetParam().isDone(stage));
         expectAfter(stage);
         return seen;
@@ -165,14 +135,11 @@ class ModDateGuasti : public ::testing::TestWithParam<Command> {
 TEST_P(ModDateGuasti, OneFailureIsToldAndTheCommandGivenAgainEndsIt) {
     const int all = operations();
     ASSERT_GE(all, 2);
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(GetParam().inTable(), all, [&](int n) {
         Stage stage;
         GetParam().prepare(stage);
         stage.desk.told.clear();
-        stage.failing.failOnce(n);
-        stage.click(GetParam().button);
-        stage.failing.failOnce(0);
+        failingOnce(stage.failing, n, [&] { stage.click(GetParam().button); });
         expectWhole(stage);
         if (!GetParam().isDone(stage)) {
             EXPECT_THAT(stage.desk.told, ElementsAre("Errore"));
@@ -180,43 +147,36 @@ TEST_P(ModDateGuasti, OneFailureIsToldAndTheCommandGivenAgainEndsIt) {
         }
         EXPECT_TRUE(GetParam().isDone(stage));
         expectAfter(stage);
-    }
+    });
 }
 
 TEST_P(ModDateGuasti, APowerCutLeavesEachFileOldOrNewAndTheElectionIsFoundAgain) {
     const int all = operations();
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(GetParam().inTable(), all, [&](int n) {
         Stage stage;
         GetParam().prepare(stage);
-        stage.failing.stopAt(n);
-        stage.click(GetParam().button);
-        stage.failing.stopAt(0);
-        stage.disk.cutPower();
+        cuttingPower(stage.failing, stage.disk, n, [&] { stage.click(GetParam().button); });
         expectWhole(stage);
         stage.desk.told.clear();
         stage.search();
         EXPECT_THAT(stage.desk.told, IsEmpty());
         EXPECT_EQ(stage.screen->txtNumDip.text(), "3");
-    }
+    });
 }
 
 TEST_P(ModDateGuasti, WhatFailedDoesNotLeaveTheClerkWithHalfAScreen) {
     const int all = operations();
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(GetParam().inTable(), all, [&](int n) {
         Stage stage;
         GetParam().prepare(stage);
-        stage.failing.failOnce(n);
-        stage.click(GetParam().button);
-        stage.failing.failOnce(0);
-        if (GetParam().isDone(stage)) continue;
+        failingOnce(stage.failing, n, [&] { stage.click(GetParam().button); });
+        if (GetParam().isDone(stage)) return;
         EXPECT_TRUE(stage.control(GetParam().button).isOperable());
         if (!stage.control("Frame2").isEnabled()) {
             EXPECT_EQ(stage.screen->txtNumDip.text(), "");
             EXPECT_EQ(stage.control("txtMens1").shownText(), "");
         }
-    }
+    });
 }
 
 INSTANTIATE_TEST_SUITE_P(Of, ModDateGuasti, ::testing::ValuesIn(commands()),
@@ -231,7 +191,7 @@ class BrokenPrinter : public RecordingPrintEngine {
 TEST(ModDateResocontoGuasti, APrinterThatDoesNotAnswerIsTold) {
     Stage stage;
     BrokenPrinter broken;
-    NotingDesk desk;
+    AgreeingDesk desk;
     frmModDate screen(Workplace{stage.disk, desk, stage.staging, broken, stage.screens, stage.places});
     desk.open(screen.form);
     Operator clerk(screen.form);
@@ -244,7 +204,6 @@ TEST(ModDateResocontoGuasti, APrinterThatDoesNotAnswerIsTold) {
     EXPECT_THAT(desk.told, ElementsAre("Errore"));
     EXPECT_TRUE(screen.cmdStampa.enabled());
     desk.shut(screen.form);
-    stage.open();
 }
 
 }  // namespace

@@ -5,7 +5,7 @@
 #include <map>
 
 #include "liquidation_desk.h"
-#include "storage/failing_file_system.h"
+#include "support/fault_stage.h"
 
 namespace vorbano::test {
 namespace {
@@ -13,46 +13,20 @@ namespace {
 using ::testing::AnyOf;
 using ::testing::Contains;
 
-/// Says yes to every question and remembers the titles of what was told.
-class AgreeingDesk : public ScriptedDesktop {
-  public:
-    std::vector<std::string> told;
-    void tell(const Message& message) override { told.push_back(message.title); }
-    bool ask(const Message&) override { return true; }
-};
-
 using Files = std::map<std::string, std::string>;
 const std::string folder = "Elezioni/Europee/07-06-09/";
 
 /// One fresh disk, desk and screen.
-struct Bench {
-    MemoryFileSystem disk;
-    FailingFileSystem failing{disk};
-    AgreeingDesk desk;
-    MemoryDatabase staging{stagingTables()};
-    MemoryDatabase places{placeTables()};
-    RecordingPrintEngine printing;
-    OpenedScreens screens;
-    std::unique_ptr<frmModStraord> screen;
-
+struct Bench : FaultStage<frmModStraord> {
     explicit Bench(const Files& files) {
         for (const auto& [name, content] : files) EXPECT_TRUE(lay(disk, folder + name, content));
         EXPECT_TRUE(lay(disk, "Params/Conprev.dat", amount(23, 80) + amount(8, 50) + amount(8, 80) + amount(0, 35)));
     }
-    ~Bench() { desk.shut(screen->form); }
     void open() {
-        if (screen) desk.shut(screen->form);
-        screen = std::make_unique<frmModStraord>(Workplace{failing, desk, staging, printing, screens, places});
-        desk.open(screen->form);
-        EXPECT_EQ(clerk().choose(control("Combo1"), "Europee"), Refusal::none);
+        openScreen();
+        choose("Combo1", "Europee");
         type("txtDataEle", "07/06/09");
     }
-    Control& control(const std::string& name) { return *screen->form.find(name); }
-    Operator clerk() { return Operator(screen->form); }
-    void type(const std::string& name, const char* words) {
-        EXPECT_EQ(clerk().type(control(name), words), Refusal::none) << name;
-    }
-    void click(const std::string& name) { EXPECT_EQ(clerk().click(control(name)), Refusal::none) << name; }
     void callUp(const char* number) {
         open();
         type("txtSonoDip", number);
@@ -61,11 +35,11 @@ struct Bench {
     /// Employee `number` is paid ten hours and three, up to "Salva".
     void toSalva(const char* number) {
         callUp(number);
-        EXPECT_EQ(clerk().press(control("Frame1")), Refusal::none);
+        press("Frame1");
         type("txtPag1Df", "10");
         type("txtPag1Nf", "3");
-        EXPECT_EQ(clerk().enter(control("txtTotale1")), Refusal::none);
-        clerk().leave();
+        enter("txtTotale1");
+        leave();
         click("cmdRicalcola");
     }
     Files files(const Files& like) {
@@ -131,6 +105,7 @@ struct Command {
     void (*prepare)(Bench&);
     const char* command;
     Files after;
+    [[nodiscard]] FaultCase inTable() const { return {std::string("frmModStraord.") + command, name}; }
 };
 void PrintTo(const Command& command, std::ostream* out) { *out << command.name; }
 
@@ -155,16 +130,16 @@ const std::vector<Command>& commands() {
         {"SalvaModifica", laid(),
          [](Bench& bench) {
              bench.callUp("2");
-             EXPECT_EQ(bench.clerk().tick(bench.control("Check1"), true), Refusal::none);
+             bench.tick("Check1");
              bench.type("txtNameDip", "VERDI ALDA");
          },
          "cmdSalva2", withName(laid())},
         {"Attiva", laid(),
          [](Bench& bench) {
              bench.open();
-             EXPECT_EQ(bench.clerk().menu(bench.control("mnuAutoriz")), Refusal::none);
+             bench.menu("mnuAutoriz");
              for (const char* box : {"Check8", "Check12"}) {
-                 EXPECT_EQ(bench.clerk().tick(bench.control(box), true), Refusal::none);
+                 bench.tick(box);
              }
          },
          "cmdAttiva2", withLimits(laid(), limitsBytes({0, 1, 1}, 0))},
@@ -178,9 +153,7 @@ class GuastiLiquidazione : public ::testing::TestWithParam<Command> {
         Bench bench(GetParam().before);
         GetParam().prepare(bench);
         EXPECT_EQ(hexOf(bench.files(GetParam().before)), hexOf(GetParam().before));
-        bench.failing.failOnce(0);
-        bench.click(GetParam().command);
-        const int seen = bench.failing.operations();
+        const int seen = operationsOf(bench.failing, [&] { bench.click(GetParam().command); });
         EXPECT_EQ(hexOf(bench.files(GetParam().after)), hexOf(GetParam().after));
         EXPECT_FALSE(canAct(bench));
         return seen;
@@ -201,14 +174,11 @@ class GuastiLiquidazione : public ::testing::TestWithParam<Command> {
 TEST_P(GuastiLiquidazione, OneFailureIsToldAndTheCommandGivenAgainEndsIt) {
     const int all = operations();
     ASSERT_GE(all, 3);
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(GetParam().inTable(), all, [&](int n) {
         Bench bench(GetParam().before);
         GetParam().prepare(bench);
         bench.desk.told.clear();
-        bench.failing.failOnce(n);
-        bench.click(GetParam().command);
-        bench.failing.failOnce(0);
+        failingOnce(bench.failing, n, [&] { bench.click(GetParam().command); });
         expectWhole(bench);
         if (canAct(bench)) {
             EXPECT_THAT(bench.desk.told, Contains("Errore")) << "it failed without a word";
@@ -216,25 +186,21 @@ TEST_P(GuastiLiquidazione, OneFailureIsToldAndTheCommandGivenAgainEndsIt) {
         }
         EXPECT_EQ(hexOf(bench.files(GetParam().after)), hexOf(GetParam().after));
         EXPECT_FALSE(canAct(bench));
-    }
+    });
 }
 
 TEST_P(GuastiLiquidazione, AfterAPowerCutEachFileIsOldOrNewAndTheWorkIsDoneAgain) {
     const int all = operations();
-    for (int n = 1; n <= all; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(GetParam().inTable(), all, [&](int n) {
         Bench bench(GetParam().before);
         GetParam().prepare(bench);
-        bench.failing.stopAt(n);
-        bench.click(GetParam().command);
-        bench.failing.stopAt(0);
-        bench.disk.cutPower();
+        cuttingPower(bench.failing, bench.disk, n, [&] { bench.click(GetParam().command); });
         expectWhole(bench);
-        if (hexOf(bench.files(GetParam().before)) == hexOf(GetParam().after)) continue;
+        if (hexOf(bench.files(GetParam().before)) == hexOf(GetParam().after)) return;
         GetParam().prepare(bench);
         bench.click(GetParam().command);
         EXPECT_EQ(hexOf(bench.files(GetParam().after)), hexOf(GetParam().after));
-    }
+    });
 }
 
 INSTANTIATE_TEST_SUITE_P(Commands, GuastiLiquidazione, ::testing::ValuesIn(commands()),
@@ -243,6 +209,7 @@ INSTANTIATE_TEST_SUITE_P(Commands, GuastiLiquidazione, ::testing::ValuesIn(comma
 /// A command that only reads: every failure is told and the command can be given again.
 struct Reading {
     const char* name;
+    const char* command;
     void (*prepare)(Bench&);
     void (*act)(Bench&);
     bool (*isDone)(Bench&);
@@ -252,66 +219,60 @@ void PrintTo(const Reading& reading, std::ostream* out) { *out << reading.name; 
 class GuastiComandi : public ::testing::TestWithParam<Reading> {};
 
 TEST_P(GuastiComandi, AFailureIsToldAndTheCommandGivenAgainEndsIt) {
-    int failures = 0;
-    for (int n = 1; n < 100; ++n) {
-        SCOPED_TRACE(n);
+    int all = 0;
+    {
+        Bench bench(laid());
+        GetParam().prepare(bench);
+        all = operationsOf(bench.failing, [&] { GetParam().act(bench); });
+        EXPECT_TRUE(GetParam().isDone(bench));
+    }
+    EXPECT_GE(all, 2);
+    atEveryOperation({std::string("frmModStraord.") + GetParam().command, "reads"}, all, [&](int n) {
         Bench bench(laid());
         GetParam().prepare(bench);
         bench.desk.told.clear();
-        bench.failing.failOnce(n);
-        GetParam().act(bench);
-        const bool struck = bench.failing.operations() >= n;
-        bench.failing.failOnce(0);
-        if (!struck) {
-            EXPECT_TRUE(GetParam().isDone(bench));
-            EXPECT_GE(failures, 2);
-            return;
-        }
-        ++failures;
+        failingOnce(bench.failing, n, [&] { GetParam().act(bench); });
         EXPECT_THAT(bench.desk.told, Contains("Errore"));
         EXPECT_FALSE(GetParam().isDone(bench));
         GetParam().act(bench);
         EXPECT_TRUE(GetParam().isDone(bench));
-    }
-    FAIL() << "the command never came to an end";
+    });
 }
 
 const Reading readings[] = {
-    {"Search",
+    {"Search", "cmdRicerca",
      [](Bench& bench) {
          bench.open();
          bench.type("txtSonoDip", "1");
      },
      [](Bench& bench) { bench.click("cmdRicerca"); },
      [](Bench& bench) { return bench.screen->txtNameDip.text() == "BIANCHI ANNA"; }},
-    {"Conferma",
+    {"Conferma", "cmdRicalcola",
      [](Bench& bench) {
          bench.callUp("1");
-         EXPECT_EQ(bench.clerk().press(bench.control("Frame1")), Refusal::none);
+         bench.press("Frame1");
          bench.type("txtPag1Df", "10");
-         EXPECT_EQ(bench.clerk().enter(bench.control("txtTotale1")), Refusal::none);
-         bench.clerk().leave();
+         bench.enter("txtTotale1");
+         bench.leave();
      },
      [](Bench& bench) { bench.click("cmdRicalcola"); }, [](Bench& bench) { return bench.screen->cmdSalva.enabled(); }},
-    {"Names", [](Bench& bench) { bench.open(); },
-     [](Bench& bench) { EXPECT_EQ(bench.clerk().tick(bench.control("Check11"), true), Refusal::none); },
+    {"Names", "Check11", [](Bench& bench) { bench.open(); }, [](Bench& bench) { bench.tick("Check11"); },
      [](Bench& bench) { return bench.screen->Check11.checked() && bench.screen->cmbNome.items().size() == 2; }},
-    {"List", [](Bench& bench) { bench.open(); }, [](Bench& bench) { bench.click("cmdRicerca2"); },
+    {"List", "cmdRicerca2", [](Bench& bench) { bench.open(); }, [](Bench& bench) { bench.click("cmdRicerca2"); },
      [](Bench& bench) { return bench.screen->MSFlexGrid1.rows() == 3; }},
-    {"Rates", [](Bench& bench) { bench.callUp("1"); }, [](Bench& bench) { bench.click("cmdTariffe"); },
+    {"Rates", "cmdTariffe", [](Bench& bench) { bench.callUp("1"); }, [](Bench& bench) { bench.click("cmdTariffe"); },
      [](Bench& bench) { return bench.screen->Frame26.visible(); }},
-    {"States", [](Bench& bench) { bench.open(); },
-     [](Bench& bench) { EXPECT_EQ(bench.clerk().menu(bench.control("mnuAutoriz")), Refusal::none); },
+    {"States", "mnuAutoriz", [](Bench& bench) { bench.open(); }, [](Bench& bench) { bench.menu("mnuAutoriz"); },
      [](Bench& bench) { return bench.screen->Frame24.visible(); }},
-    {"AuthorisedHours",
+    {"AuthorisedHours", "txtNf1Per",
      [](Bench& bench) {
          EXPECT_TRUE(lay(bench.disk, folder + "Meirin.vbn", limitsBytes({0, 0, 0})));
          bench.callUp("1");
-         EXPECT_EQ(bench.clerk().press(bench.control("Frame1")), Refusal::none);
+         bench.press("Frame1");
      },
      [](Bench& bench) {
-         EXPECT_EQ(bench.clerk().enter(bench.control("txtNf1Per")), Refusal::none);
-         bench.clerk().leave();
+         bench.enter("txtNf1Per");
+         bench.leave();
      },
      [](Bench& bench) { return bench.screen->cmdRicalcola.enabled(); }},
 };

@@ -6,8 +6,8 @@
 #include "overtime/liquidation_save.h"
 #include "overtime/meirin_periods.h"
 #include "overtime/rendi_kontrol.h"
-#include "storage/failing_file_system.h"
 #include "stored_election.h"
+#include "support/fault_stage.h"
 
 namespace vorbano::test {
 namespace {
@@ -17,10 +17,12 @@ using Files = std::map<std::string, std::string>;
 /// A command on an election of six employees. What it stores is proven byte by byte by its own tests.
 struct Command {
     const char* name;
+    const char* command;  ///< whose work it is
     Election election;
     Result<> (*act)(FileSystem&);
     /// The files that it changes.
     std::vector<std::string> changes;
+    [[nodiscard]] FaultCase inTable() const { return {command, std::string("rule ") + name}; }
 };
 void PrintTo(const Command& command, std::ostream* out) { *out << command.name; }
 
@@ -69,45 +71,59 @@ const Removal theSecondUncounted{.number = 2, .recordsBefore = 0, .employeesLeft
 const std::vector<Command>& commands() {
     static const std::vector<Command> all = {
         {"Salva",
+         "frmModStraord.cmdSalva",
          europee,
          [](FileSystem& files) { return salva(files, europee, noLate, false); },
          {"09-06-24.vbn", "Meirin.vbn", "Rendi.vbn"}},
         {"SalvaWithFivePeriods",
+         "frmModStraord.cmdSalva",
          fivePeriods,
          [](FileSystem& files) { return salva(files, fivePeriods, bothLate, true); },
          {"09-06-13.vbn", "Meirin.vbn", "Rendi.vbn", "Quartum.vbn", "Pentium.vbn"}},
         {"ANameAlone",
+         "frmModStraord.cmdSalva2",
          europee,
          [](FileSystem& files) { return storeEmployeeName(files, europee, 4, "NERI LUCA"); },
          {"09-06-24.vbn"}},
         {"ChangeOfState",
+         "frmModStraord.cmdAttiva2",
          europee,
          [](FileSystem& files) {
              return storePeriodStates(files, europee, {true, false, true}, PeriodState::authorisation);
          },
          {"Meirin.vbn"}},
-        {"RendiKontrol", europee, [](FileSystem& files) { return RendiKontrol(files, europee); }, {"Rendi.vbn"}},
+        {"RendiKontrol",
+         "frmModStraord.cmdSalva",
+         europee,
+         [](FileSystem& files) { return RendiKontrol(files, europee); },
+         {"Rendi.vbn"}},
         {"ChangeOfDates",
+         "frmModDate.cmdSalva",
          europee,
          [](FileSystem& files) { return changeDates(files, europee, otherDates(false)); },
          {"09-06-24.vbn", "Meirin.vbn"}},
         {"ChangeOfFiveDates",
+         "frmModDate.cmdSalva",
          fivePeriods,
          [](FileSystem& files) { return changeDates(files, fivePeriods, otherDates(true)); },
          {"09-06-13.vbn", "Meirin.vbn", "Quartum.vbn", "Pentium.vbn"}},
         {"DatesOfTheActs",
+         "frmModDate.cmdSalva2",
          europee,
          [](FileSystem& files) { return storeActDates(files, europee, "20-04-24", "21-04-24"); },
          {"Duedate.vbn"}},
         {"Removal",
+         "frmElimina.cmdElimina",
          europee,
          [](FileSystem& files) { return removeEmployee(files, europee, noLate, theSecond); },
          {"09-06-24.vbn", "Meirin.vbn"}},
         {"RemovalWithFivePeriods",
+         "frmElimina.cmdElimina",
          fivePeriods,
          [](FileSystem& files) { return removeEmployee(files, fivePeriods, bothLate, theSecond); },
          {"09-06-13.vbn", "Meirin.vbn", "Quartum.vbn", "Pentium.vbn"}},
         {"RemovalUncounted",
+         "frmElimina.cmdElimina",
          fivePeriods,
          [](FileSystem& files) { return removeEmployee(files, fivePeriods, bothLate, theSecondUncounted); },
          {"09-06-13.vbn", "Meirin.vbn", "Quartum.vbn", "Pentium.vbn"}},
@@ -132,9 +148,7 @@ class StoredCommand : public ::testing::TestWithParam<Command> {
     void SetUp() override {
         Stage stage(GetParam());
         before = filesOf(stage.disk, GetParam().election);
-        stage.failing.failOnce(0);
-        ASSERT_THAT(GetParam().act(stage.failing), Succeeds());
-        operations = stage.failing.operations();
+        operations = operationsOf(stage.failing, [&] { ASSERT_THAT(GetParam().act(stage.failing), Succeeds()); });
         after = filesOf(stage.disk, GetParam().election);
         ASSERT_GE(operations, 3);
         std::vector<std::string> changed;
@@ -144,6 +158,8 @@ class StoredCommand : public ::testing::TestWithParam<Command> {
         ASSERT_THAT(changed, ::testing::UnorderedElementsAreArray(GetParam().changes));
         ASSERT_EQ(after.size(), before.size());
     }
+    /// Every operation counts.
+    static void failAsADisk(Stage& stage) { EXPECT_THAT(GetParam().act(stage.failing), Fails(Failure::device)); }
     void expectWhole(Stage& stage) {
         const Files now = filesOf(stage.disk, GetParam().election);
         for (const auto& [name, content] : before) {
@@ -169,63 +185,47 @@ class StoredCommand : public ::testing::TestWithParam<Command> {
 };
 
 TEST_P(StoredCommand, FailsAtAnyOperationAndIsGivenAgain) {
-    for (int n = 1; n <= operations; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(GetParam().inTable(), operations, [&](int n) {
         Stage stage(GetParam());
-        stage.failing.failOnce(n);
-        const auto done = GetParam().act(stage.failing);
-        ASSERT_GE(stage.failing.operations(), n);
-        stage.failing.failOnce(0);
-        EXPECT_THAT(done, Fails(Failure::device)) << "every operation counts";
+        failingOnce(stage.failing, n, [&] {
+            failAsADisk(stage);
+            ASSERT_GE(stage.failing.operations(), n);
+        });
         expectWhole(stage);
         expectTheEnd(stage);
-    }
+    });
 }
 
 TEST_P(StoredCommand, StopsAtAnyOperationAndIsGivenAgain) {
-    for (int n = 1; n <= operations; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(GetParam().inTable(), operations, [&](int n) {
         Stage stage(GetParam());
-        stage.failing.stopAt(n);
-        EXPECT_THAT(GetParam().act(stage.failing), Fails(Failure::device));
-        stage.failing.stopAt(0);
+        stopping(stage.failing, n, [&] { failAsADisk(stage); });
         expectWhole(stage);
         expectTheEnd(stage);
-    }
+    });
 }
 
 TEST_P(StoredCommand, IsGivenAgainAfterAPowerCutAtAnyOperation) {
-    for (int n = 1; n <= operations; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(GetParam().inTable(), operations, [&](int n) {
         Stage stage(GetParam());
-        stage.failing.stopAt(n);
-        EXPECT_THAT(GetParam().act(stage.failing), Fails(Failure::device));
-        stage.failing.stopAt(0);
-        stage.disk.cutPower();
+        cuttingPower(stage.failing, stage.disk, n, [&] { failAsADisk(stage); });
         expectWhole(stage);
         expectTheEnd(stage);
-    }
+    });
 }
 
 TEST_P(StoredCommand, ThatRemovesLeavesFilesOfOneElectionAfterTheSearch) {
     if (!isRemoval(GetParam())) return;
-    for (int n = 1; n <= operations; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(GetParam().inTable(), operations, [&](int n) {
         Stage stage(GetParam());
-        stage.failing.stopAt(n);
-        EXPECT_THAT(GetParam().act(stage.failing), Fails(Failure::device));
-        stage.failing.stopAt(0);
-        stage.disk.cutPower();
+        cuttingPower(stage.failing, stage.disk, n, [&] { failAsADisk(stage); });
         expectOneOfBoth(stage);
         // And a second failure while the first is being mended.
         Stage again(GetParam());
-        again.failing.stopAt(n);
-        EXPECT_THAT(GetParam().act(again.failing), Fails(Failure::device));
-        again.failing.stopAt(3);
-        searchElection(again.failing, GetParam().election).ignore();
-        again.failing.stopAt(0);
+        stopping(again.failing, n, [&] { failAsADisk(again); });
+        stopping(again.failing, 3, [&] { searchElection(again.failing, GetParam().election).ignore(); });
         expectOneOfBoth(again);
-    }
+    });
 }
 
 INSTANTIATE_TEST_SUITE_P(Of, StoredCommand, ::testing::ValuesIn(commands()),

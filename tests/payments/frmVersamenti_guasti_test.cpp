@@ -5,7 +5,7 @@
 #include <functional>
 #include <tuple>
 
-#include "storage/failing_file_system.h"
+#include "support/fault_stage.h"
 #include "versamenti_desk.h"
 
 namespace vorbano::test {
@@ -16,24 +16,7 @@ using ::testing::Contains;
 using ::testing::IsEmpty;
 using ::testing::Not;
 
-/// Says yes to every question and remembers what was told.
-class AgreeingDesk : public ScriptedDesktop {
-  public:
-    std::vector<std::string> told;  ///< titles
-    void tell(const Message& message) override { told.push_back(message.title); }
-    bool ask(const Message&) override { return true; }
-};
-
-struct Stage {
-    MemoryFileSystem disk;
-    FailingFileSystem failing{disk};
-    AgreeingDesk desk;
-    MemoryDatabase staging{stagingTables()};
-    MemoryDatabase places{placeTables()};
-    RecordingPrintEngine printing;
-    OpenedScreens screens;
-    frmVersamenti screen{Workplace{failing, desk, staging, printing, screens, places}};
-
+struct Stage : FaultStage<frmVersamenti> {
     PaymentSet set;
 
     explicit Stage(const std::vector<LaidDocument>& documents, PaymentSet payments = PaymentSet::liquidation)
@@ -44,27 +27,14 @@ struct Stage {
         } else {
             layPayments(disk, documents);
         }
-        // The screen was made before its disk was laid.
-        screen.Combo1.items = Lines{"Europee"};
-        desk.open(screen.form);
-        Operator clerk(screen.form);
-        EXPECT_EQ(clerk.choose(screen.Combo1, "Europee"), Refusal::none);
-        EXPECT_EQ(clerk.choose(screen.Combo2, "09-06-24"), Refusal::none);
-    }
-    Stage(const Stage&) = delete;
-    Stage& operator=(const Stage&) = delete;
-    ~Stage() { desk.shut(screen.form); }
-    void click(Control& control) { EXPECT_EQ(Operator(screen.form).click(control), Refusal::none) << control.name(); }
-    void tick(Control& control) {
-        EXPECT_EQ(Operator(screen.form).tick(control, true), Refusal::none) << control.name();
-    }
-    void type(Control& control, std::string_view words) {
-        EXPECT_EQ(Operator(screen.form).type(control, words), Refusal::none) << control.name();
+        openScreen();
+        choose("Combo1", "Europee");
+        choose("Combo2", "09-06-24");
     }
     /// Calls up the payments of the set.
     void search() {
-        click(screen.cmdAnteprima);
-        if (set == PaymentSet::adjustment) click(screen.cmdConguaglio);
+        click("cmdAnteprima");
+        if (set == PaymentSet::adjustment) click("cmdConguaglio");
     }
     std::string stored(std::string_view name) { return contentOf(disk, paymentPath(name)); }
     std::string storedDocuments() { return stored(documentsFile(set)); }
@@ -88,7 +58,6 @@ LaidDocument of(LaidDocument document, int cents) {
 const std::vector<LaidDocument> differing = {of(mandate1, 1), of(mandate2, 2), of(irpefForm, 3), inpsForm};
 const std::vector<LaidDocument> inLine = {mandate1, mandate2, irpefForm, inpsForm};
 
-enum class Fault { once, stop };
 class VersamentiGuasti : public ::testing::TestWithParam<std::tuple<Fault, PaymentSet>> {
   protected:
     using Step = std::function<void(Stage&)>;
@@ -103,13 +72,10 @@ class VersamentiGuasti : public ::testing::TestWithParam<std::tuple<Fault, Payme
     }
     static int irpef() { return adjusting() ? 32100 : 123456; }
 
-    static void strike(Stage& stage, int n) {
-        std::get<Fault>(GetParam()) == Fault::once ? stage.failing.failOnce(n) : stage.failing.stopAt(n);
-    }
     /// On a stage with these documents acts with a fault at each operation of the act in turn; there must be at least
     /// `atLeast` of them.
-    static void atEachOperation(int atLeast, const std::vector<LaidDocument>& documents, const Step& prepare,
-                                const Step& act, const Step& check) {
+    static void atEachOperation(const char* command, int atLeast, const std::vector<LaidDocument>& documents,
+                                const Step& prepare, const Step& act, const Step& check) {
         const auto prepared = [&](Stage& stage) {
             prepare(stage);
             stage.desk.told.clear();
@@ -118,71 +84,69 @@ class VersamentiGuasti : public ::testing::TestWithParam<std::tuple<Fault, Payme
         {
             Stage stage(documents, set());
             prepared(stage);
-            stage.failing.failOnce(0);
-            act(stage);
-            all = stage.failing.operations();
+            all = operationsOf(stage.failing, [&] { act(stage); });
         }
         ASSERT_GE(all, atLeast);
-        for (int n = 1; n <= all; ++n) {
-            SCOPED_TRACE(n);
+        const char* test = ::testing::UnitTest::GetInstance()->current_test_info()->name();
+        atEveryOperation({std::string("frmVersamenti.") + command, test}, all, [&](int n) {
             Stage stage(documents, set());
             prepared(stage);
-            strike(stage, n);
+            strike(stage.failing, std::get<Fault>(GetParam()), n);
             act(stage);
             stage.expectOthersUntouched();
             check(stage);
-        }
+        });
     }
 };
 using ::testing::Combine;
 using ::testing::Values;
 INSTANTIATE_TEST_SUITE_P(Both, VersamentiGuasti,
-                         Combine(Values(Fault::once, Fault::stop),
+                         Combine(Values(Fault::once, Fault::forGood),
                                  Values(PaymentSet::liquidation, PaymentSet::adjustment)));
 
 class RicercaGuasti : public VersamentiGuasti {};
 INSTANTIATE_TEST_SUITE_P(Both, RicercaGuasti,
-                         Combine(Values(Fault::once, Fault::stop), Values(PaymentSet::liquidation)));
+                         Combine(Values(Fault::once, Fault::forGood), Values(PaymentSet::liquidation)));
 
 TEST_P(RicercaGuasti, TheSearchLeavesTheDocumentsOldOrNew) {
-    const auto search = [](Stage& stage) { stage.click(stage.screen.cmdAnteprima); };
+    const auto search = [](Stage& stage) { stage.click("cmdAnteprima"); };
     atEachOperation(
-        10, differing, [](Stage&) {}, search,
+        "cmdAnteprima", 10, differing, [](Stage&) {}, search,
         [&](Stage& stage) {
             EXPECT_THAT(stage.storedDocuments(), AnyOf(laidDocuments(differing), laidDocuments(inLine)));
-            if (stage.screen.cmdInserire.enabled()) return;
+            if (stage.screen->cmdInserire.enabled()) return;
             EXPECT_THAT(stage.desk.told, Not(IsEmpty()));
             stage.failing.failOnce(0);
             search(stage);
             EXPECT_EQ(toHex(stage.storedDocuments()), toHex(laidDocuments(inLine)));
             EXPECT_EQ(stage.stored("Reversum.vbn"), noFile);
-            EXPECT_TRUE(stage.screen.cmdInserire.enabled());
+            EXPECT_TRUE(stage.screen->cmdInserire.enabled());
         });
 }
 
 class ConguaglioGuasti : public VersamentiGuasti {};
 INSTANTIATE_TEST_SUITE_P(Both, ConguaglioGuasti,
-                         Combine(Values(Fault::once, Fault::stop), Values(PaymentSet::adjustment)));
+                         Combine(Values(Fault::once, Fault::forGood), Values(PaymentSet::adjustment)));
 
 /// The adjustment is on show from its label to its last amount, or the liquidation is.
 void expectOnShow(Stage& stage, bool adjustment) {
-    EXPECT_EQ(stage.screen.Label21.visible(), adjustment);
-    EXPECT_EQ(stage.screen.cmdConguaglio.text(), adjustment ? "Annulla Conguaglio" : "Conguaglio");
-    EXPECT_EQ(stage.screen.txtContrDip.text(), adjustment ? "4,44" : "19,03");
-    EXPECT_EQ(stage.screen.Label4.text(), adjustment ? "8,9%" : "8,85%");
-    EXPECT_EQ(stage.screen.txtIrpef.text(), adjustment ? "321,00" : "1.234,56");
-    EXPECT_TRUE(stage.screen.cmdInserire.isOperable());
+    EXPECT_EQ(stage.screen->Label21.visible(), adjustment);
+    EXPECT_EQ(stage.screen->cmdConguaglio.text(), adjustment ? "Annulla Conguaglio" : "Conguaglio");
+    EXPECT_EQ(stage.screen->txtContrDip.text(), adjustment ? "4,44" : "19,03");
+    EXPECT_EQ(stage.screen->Label4.text(), adjustment ? "8,9%" : "8,85%");
+    EXPECT_EQ(stage.screen->txtIrpef.text(), adjustment ? "321,00" : "1.234,56");
+    EXPECT_TRUE(stage.screen->cmdInserire.isOperable());
 }
 
 TEST_P(ConguaglioGuasti, TheWayInLeavesTheOneOrTheOtherOnShow) {
     atEachOperation(
-        6, {adjusted1}, [](Stage& stage) { stage.click(stage.screen.cmdAnteprima); },
-        [](Stage& stage) { stage.click(stage.screen.cmdConguaglio); },
+        "cmdConguaglio", 6, {adjusted1}, [](Stage& stage) { stage.click("cmdAnteprima"); },
+        [](Stage& stage) { stage.click("cmdConguaglio"); },
         [](Stage& stage) {
             EXPECT_THAT(stage.desk.told, Contains("Errore"));
             expectOnShow(stage, false);
             stage.failing.failOnce(0);
-            stage.click(stage.screen.cmdConguaglio);
+            stage.click("cmdConguaglio");
             expectOnShow(stage, true);
             EXPECT_EQ(toHex(stage.storedDocuments()), toHex(laidDocuments({adjusted1})));
         });
@@ -190,15 +154,15 @@ TEST_P(ConguaglioGuasti, TheWayInLeavesTheOneOrTheOtherOnShow) {
 
 TEST_P(ConguaglioGuasti, TheWayBackLeavesTheOneOrTheOtherOnShow) {
     atEachOperation(
-        10, {adjusted1}, [](Stage& stage) { stage.search(); },
-        [](Stage& stage) { stage.click(stage.screen.cmdConguaglio); },
+        "cmdConguaglio", 10, {adjusted1}, [](Stage& stage) { stage.search(); },
+        [](Stage& stage) { stage.click("cmdConguaglio"); },
         [](Stage& stage) {
-            const bool stayed = stage.screen.Label21.visible();
+            const bool stayed = stage.screen->Label21.visible();
             expectOnShow(stage, stayed);
             if (!stayed) return;
             EXPECT_THAT(stage.desk.told, Not(IsEmpty()));
             stage.failing.failOnce(0);
-            stage.click(stage.screen.cmdConguaglio);
+            stage.click("cmdConguaglio");
             expectOnShow(stage, false);
             EXPECT_EQ(toHex(stage.storedDocuments()), toHex(laidDocuments({adjusted1})));
         });
@@ -209,19 +173,19 @@ TEST_P(VersamentiGuasti, TheRemovalLeavesTheDocumentsOldOrNew) {
     const std::string before = laidDocuments({first(), second(), first(), irpef});
     const std::string after = laidDocuments({second(), irpef});
     atEachOperation(
-        6, {first(), second(), first(), irpef},
+        "cmdElimina", 6, {first(), second(), first(), irpef},
         [](Stage& stage) {
             stage.search();
-            stage.click(stage.screen.cmdVisualizza);
-            EXPECT_EQ(Operator(stage.screen.form).chooseIndex(stage.screen.List1, 2), Refusal::none);
-            EXPECT_EQ(stage.screen.Label15.text(), "1");
+            stage.click("cmdVisualizza");
+            stage.chooseIndex("List1", 2);
+            EXPECT_EQ(stage.screen->Label15.text(), "1");
         },
-        [](Stage& stage) { stage.click(stage.screen.cmdElimina); },
+        [](Stage& stage) { stage.click("cmdElimina"); },
         [&](Stage& stage) {
             EXPECT_THAT(stage.storedDocuments(), AnyOf(before, after));
             EXPECT_THAT(stage.desk.told, Contains("Errore"));
             stage.failing.failOnce(0);
-            stage.click(stage.screen.cmdElimina);
+            stage.click("cmdElimina");
             EXPECT_EQ(toHex(stage.storedDocuments()), toHex(after));
             EXPECT_EQ(stage.stored("Reversum.vbn"), noFile);
             stage.expectOthersUntouched();
@@ -230,37 +194,37 @@ TEST_P(VersamentiGuasti, TheRemovalLeavesTheDocumentsOldOrNew) {
 
 TEST_P(VersamentiGuasti, ADocumentThatIsNotStoredIsToldAndCanBeStoredAgain) {
     atEachOperation(
-        3, {first()},
+        "cmdSalva", 3, {first()},
         [](Stage& stage) {
             stage.search();
-            stage.click(stage.screen.cmdInserire);
-            stage.tick(stage.screen.Check1);
-            stage.tick(stage.screen.Check6);
-            stage.tick(stage.screen.Check9);
-            stage.type(stage.screen.txtMnumero, std::to_string(second().number));
-            stage.type(stage.screen.txtMdata, second().date);
+            stage.click("cmdInserire");
+            stage.tick("Check1");
+            stage.tick("Check6");
+            stage.tick("Check9");
+            stage.type("txtMnumero", std::to_string(second().number));
+            stage.type("txtMdata", second().date);
         },
-        [](Stage& stage) { stage.click(stage.screen.cmdSalva); },
+        [](Stage& stage) { stage.click("cmdSalva"); },
         [](Stage& stage) {
             EXPECT_THAT(stage.desk.told, Contains("Errore"));
             EXPECT_THAT(stage.storedDocuments(), AnyOf(laidDocuments({first()}), laidDocuments({first(), second()})));
-            EXPECT_TRUE(stage.screen.cmdSalva.isOperable());
-            EXPECT_EQ(stage.screen.txtMnumero.text(), std::to_string(second().number));
+            EXPECT_TRUE(stage.screen->cmdSalva.isOperable());
+            EXPECT_EQ(stage.screen->txtMnumero.text(), std::to_string(second().number));
         });
 }
 
 TEST_P(VersamentiGuasti, ADateThatIsNotKeptBesideItsAmountIsTold) {
     const std::string_view date = inail().date;
     atEachOperation(
-        6, {first()},
+        "cmdSalva", 6, {first()},
         [&](Stage& stage) {
             stage.search();
-            stage.click(stage.screen.cmdInserire);
-            stage.tick(stage.screen.Check11);
-            stage.tick(stage.screen.Check12);
-            stage.type(stage.screen.txtDatainail, date);
+            stage.click("cmdInserire");
+            stage.tick("Check11");
+            stage.tick("Check12");
+            stage.type("txtDatainail", date);
         },
-        [](Stage& stage) { stage.click(stage.screen.cmdSalva); },
+        [](Stage& stage) { stage.click("cmdSalva"); },
         [&](Stage& stage) {
             EXPECT_THAT(stage.desk.told, Contains("Errore"));
             EXPECT_THAT(stage.storedDocuments(), AnyOf(laidDocuments({first()}), laidDocuments({first(), inail()})));
@@ -274,42 +238,42 @@ TEST_P(VersamentiGuasti, AChangeIsStoredInItsPlaceOrTold) {
     const std::string before = laidDocuments({first(), second()});
     const std::string after = laidDocuments({first(), changed});
     atEachOperation(
-        2, {first(), second()},
+        "cmdSalva", 2, {first(), second()},
         [](Stage& stage) {
             stage.search();
-            stage.click(stage.screen.cmdVisualizza);
-            EXPECT_EQ(Operator(stage.screen.form).chooseIndex(stage.screen.List1, 3), Refusal::none);
-            stage.click(stage.screen.cmdModifica);
-            stage.type(stage.screen.txtMnumero, "77");
+            stage.click("cmdVisualizza");
+            stage.chooseIndex("List1", 3);
+            stage.click("cmdModifica");
+            stage.type("txtMnumero", "77");
         },
-        [](Stage& stage) { stage.click(stage.screen.cmdSalva); },
+        [](Stage& stage) { stage.click("cmdSalva"); },
         [&](Stage& stage) {
             EXPECT_THAT(stage.desk.told, Contains("Errore"));
             EXPECT_THAT(stage.storedDocuments(), AnyOf(before, after));
             stage.failing.failOnce(0);
-            stage.click(stage.screen.cmdSalva);
+            stage.click("cmdSalva");
             EXPECT_EQ(toHex(stage.storedDocuments()), toHex(after));
         });
 }
 
 TEST_P(VersamentiGuasti, AmountsThatAreNotStoredStayOpen) {
     atEachOperation(
-        4, {first()},
+        "cmdSalvaII", 4, {first()},
         [](Stage& stage) {
             stage.search();
-            stage.click(stage.screen.cmdInserire);
-            stage.tick(stage.screen.Check5);
-            stage.tick(stage.screen.Check13);
-            stage.type(stage.screen.txtIrpef, "99,90");
+            stage.click("cmdInserire");
+            stage.tick("Check5");
+            stage.tick("Check13");
+            stage.type("txtIrpef", "99,90");
         },
-        [](Stage& stage) { stage.click(stage.screen.cmdSalvaII); },
+        [](Stage& stage) { stage.click("cmdSalvaII"); },
         [](Stage& stage) {
             EXPECT_THAT(stage.desk.told, Contains("Errore"));
-            EXPECT_TRUE(stage.screen.txtIrpef.isOperable());
-            EXPECT_EQ(stage.screen.txtIrpef.text(), "99,90");
+            EXPECT_TRUE(stage.screen->txtIrpef.isOperable());
+            EXPECT_EQ(stage.screen->txtIrpef.text(), "99,90");
             EXPECT_THAT(stage.storedAmounts(), AnyOf(amountsWith(irpef()), amountsWith(9990)));
             stage.failing.failOnce(0);
-            stage.click(stage.screen.cmdSalvaII);
+            stage.click("cmdSalvaII");
             EXPECT_EQ(toHex(stage.storedAmounts()), toHex(amountsWith(9990)));
         });
 }
