@@ -11,7 +11,7 @@
 #include "reports/conguaglio_rendiconto.h"
 #include "reports/conguaglio_versamenti.h"
 #include "reports_desk.h"
-#include "storage/failing_file_system.h"
+#include "support/fault_stage.h"
 #include "support/results.h"
 
 namespace vorbano::test {
@@ -24,6 +24,7 @@ const Election regionali{"Regionali", "28-03-10"};
 using Print = std::function<Result<>(const Workplace&, const Election&)>;
 struct Document {
     const char* name;
+    const char* command;
     int appends;  ///< rows of all tables
     Print print;
 };
@@ -54,16 +55,17 @@ class ConguaglioFaults : public ReportsDesk, public testing::WithParamInterface<
 TEST_P(ConguaglioFaults, ADiskThatFailsAtAnyPointPrintsNothingOfThatElection) {
     FailingFileSystem failing(files);
     const Workplace onBadDisk{failing, desktop, staging, printing, screens, places};
-    ASSERT_THAT(print(onBadDisk), Succeeds());
-    clear();
-    const int operations = failing.operations();
+    const int operations = operationsOf(failing, [&] { ASSERT_THAT(print(onBadDisk), Succeeds()); });
     ASSERT_GT(operations, 4);
-    for (int n = 1; n <= operations; ++n) {
-        printing.jobs.clear();
-        failing.failOnce(n);
-        EXPECT_FALSE(print(onBadDisk).ok()) << n;
-        EXPECT_LE(printing.jobs.size(), 1U) << n;
-        expectEmptyTables();
+    clear();
+    for (const Fault fault : bothFaults) {
+        atEveryOperation({GetParam().command, "two elections"}, operations, [&](int n) {
+            printing.jobs.clear();
+            strike(failing, fault, n);
+            EXPECT_FALSE(print(onBadDisk).ok());
+            EXPECT_LE(printing.jobs.size(), 1U) << "the first of two elections at most";
+            expectEmptyTables();
+        });
     }
 }
 
@@ -96,11 +98,11 @@ INSTANTIATE_TEST_SUITE_P(
     All, ConguaglioFaults,
     testing::Values(
         // Three employees and four companions; a heading and two documents; the statement and a heading.
-        Document{"Liquidazione", 7,
+        Document{"Liquidazione", "frmTutteStampe.cmdConguaglio", 7,
                  [](const Workplace& on, const Election& of) { return printConguaglio(on, of, heading); }},
-        Document{"Versamenti", 3,
+        Document{"Versamenti", "frmTutteStampe.cmdCongA", 3,
                  [](const Workplace& on, const Election& of) { return printContributiConguaglio(on, of, heading); }},
-        Document{"Rendiconto", 2,
+        Document{"Rendiconto", "frmTutteStampe.cmdCongRend", 2,
                  [](const Workplace& on, const Election& of) { return printCongRend(on, of, heading); }}),
     [](const auto& document) { return std::string(document.param.name); });
 
