@@ -1,6 +1,7 @@
 // The disk fails or stops at every operation of a version command: each file is whole afterwards, old or new, and the
 // command can be given again.
 
+#include "support/fault_stage.h"
 #include "versions_desk.h"
 
 namespace vorbano::test {
@@ -34,58 +35,52 @@ class VersionFaults : public VersionsDesk {
         for (const Change& each : changes)
             EXPECT_EQ(toHex(contentOf(files, each.path)), toHex(each.after)) << each.path;
     }
-    static auto anErrorWasTold() {
-        return ::testing::ElementsAre(::testing::HasSubstr("nobody expected the box \"Errore\""));
-    }
 
-    /// `get_ready` are the gestures before the command and `give` the command itself.
+    /// Plays the command on a disk that fails once, then on one that stops for good, at every operation that it has,
+    /// and once more on the disk mended. `getReady` are the gestures before it.
     template <class GetReady, class Give>
-    void failEverywhere(const std::vector<Change>& changes, const GetReady& getReady, const Give& give) {
+    void underEveryFault(const FaultCase& of, const std::vector<Change>& changes, const GetReady& getReady,
+                         const Give& give) {
         prepare(changes);
         getReady();
-        failing.failOnce(0);
-        give();
-        const int operations = failing.operations();
+        const int operations = operationsOf(failing, give);
         EXPECT_GE(operations, 4);
         expectDone(changes);
-        for (int n = 1; n <= operations; ++n) {
-            SCOPED_TRACE("fails at " + std::to_string(n));
-            prepare(changes);
-            getReady();
-            failing.failOnce(n);
-            give();
-            failing.failOnce(0);
-            EXPECT_THAT(desktop.finish(), anErrorWasTold());
-            expectWhole(changes);
-            give();
-            expectDone(changes);
-        }
-        for (int n = 1; n <= operations; ++n) {
-            SCOPED_TRACE("stops at " + std::to_string(n));
-            prepare(changes);
-            getReady();
-            failing.stopAt(n);
-            give();
-            failing.stopAt(0);
-            files.cutPower();
-            EXPECT_THAT(desktop.finish(), ::testing::Not(::testing::IsEmpty()));
-            expectWhole(changes);
-            openOn(failing, staging, printing);
-            getReady();
-            give();
-            expectDone(changes);
+        for (const Fault fault : bothFaults) {
+            atEveryOperation(of, operations, [&](int n) {
+                prepare(changes);
+                getReady();
+                strike(failing, fault, n);
+                give();
+                failing.failOnce(0);
+                if (fault == Fault::once) {
+                    EXPECT_THAT(desktop.finish(), onlyAnError());
+                } else {
+                    EXPECT_THAT(desktop.finish(), ::testing::Not(::testing::IsEmpty()));
+                    files.cutPower();
+                }
+                expectWhole(changes);
+                if (fault == Fault::forGood) {
+                    openOn(failing, staging, printing);
+                    getReady();
+                }
+                give();
+                expectDone(changes);
+            });
         }
     }
 };
 
 TEST_F(VersionFaults, TheNewTariffsComeIntoForce) {
-    failEverywhere(
-        {{"Params/PmDip.dat", inForce, newVersion}}, [] {}, [&] { click("cmdTarNuove"); });
+    underEveryFault(
+        {"frmParametri.cmdTarNuove", "the table"}, {{"Params/PmDip.dat", inForce, newVersion}}, [] {},
+        [&] { click("cmdTarNuove"); });
 }
 
 TEST_F(VersionFaults, TheOldTariffsComeIntoForce) {
-    failEverywhere(
-        {{"Params/PmDip.dat", newVersion, oldVersion}}, [] {}, [&] { click("cmdTarVecchie"); });
+    underEveryFault(
+        {"frmParametri.cmdTarVecchie", "the table"}, {{"Params/PmDip.dat", newVersion, oldVersion}}, [] {},
+        [&] { click("cmdTarVecchie"); });
 }
 
 /// The statement with the overtime of one employee and 78,90 INAIL.
@@ -99,7 +94,8 @@ std::string statementOf(int cents) {
 
 TEST_F(VersionFaults, AnElectionIsRewritten) {
     ASSERT_TRUE(lay(files, pathIn(europee, meirinFile), meirinBytes()));
-    failEverywhere(
+    underEveryFault(
+        {"frmParametri.cmdTarNuove", "an election"},
         {{employeesOf(europee), oldB6, newB6},
          {pathIn(europee, rendiFile), statementOf(12'345), statementOf(62'457 + 7'890)}},
         [&] { chooseElection(); }, [&] { click("cmdTarNuove"); });
@@ -107,7 +103,8 @@ TEST_F(VersionFaults, AnElectionIsRewritten) {
 
 TEST_F(VersionFaults, AnElectionIsRewrittenBack) {
     ASSERT_TRUE(lay(files, pathIn(europee, meirinFile), meirinBytes()));
-    failEverywhere(
+    underEveryFault(
+        {"frmParametri.cmdTarVecchie", "an election"},
         {{employeesOf(europee), newB6, oldB6},
          {pathIn(europee, rendiFile), statementOf(12'345), statementOf(59'744 + 7'890)}},
         [&] { chooseElection(); }, [&] { click("cmdTarVecchie"); });
@@ -125,18 +122,17 @@ TEST_F(VersionFaults, AVersionBegins) {
     const int operations = failing.operations();
     expectDone(changes);
     // The question is asked once the file has been looked into; then the version is stored, and then the table.
-    for (const bool stops : {false, true}) {
-        for (int n = 1; n <= operations; ++n) {
-            SCOPED_TRACE((stops ? "stops at " : "fails at ") + std::to_string(n));
+    for (const Fault fault : bothFaults) {
+        atEveryOperation({"frmParametri.cmdTarNuove", "a first version"}, operations, [&](int n) {
             prepare(changes);
-            stops ? failing.stopAt(n) : failing.failOnce(n);
+            strike(failing, fault, n);
             desktop.box("Tariffe", question, ScriptedDesktop::Answer::yes);
             click("cmdTarNuove");
-            stops ? failing.stopAt(0) : failing.failOnce(0);
-            if (stops) files.cutPower();
+            failing.failOnce(0);
+            if (fault == Fault::forGood) files.cutPower();
             EXPECT_THAT(desktop.finish(), ::testing::Not(::testing::IsEmpty()));
             expectWhole(changes);
-        }
+        });
     }
 }
 
@@ -155,7 +151,7 @@ TEST_F(VersionFaults, TheAnnouncementOfAnUpdateIsNotMadeWhenTheOldTariffsCannotB
     failing.failOnce(1);
     click("cmdAggTar");
     failing.failOnce(0);
-    EXPECT_THAT(desktop.finish(), anErrorWasTold());
+    EXPECT_THAT(desktop.finish(), onlyAnError());
     EXPECT_TRUE(ticked("Check45"));
 }
 

@@ -9,7 +9,6 @@
 
 #include "overtime/stored_election.h"
 #include "parameters_desk.h"
-#include "storage/failing_file_system.h"
 
 namespace vorbano::test {
 
