@@ -174,6 +174,8 @@ struct frmParametri {
     std::optional<RateTable> ratesOnScreen();
     /// The 32 rows as shown, with the mark; nothing as for `ratesOf`.
     std::optional<TariffTable> tableOnScreen(std::string_view mark);
+    /// The rates on show are no longer those of a date of effect: neither the date nor the banner says so.
+    void leaveDateOfEffect();
     /// One run over the election at the rates on the screen; false as for `Conguaglio1`.
     bool adjust(const AdjustmentRun& run);
     /// `where` names the place of the field.

@@ -11,6 +11,8 @@ namespace vorbano {
 
 namespace {
 
+constexpr std::string_view yearBanner = "\nSONO APPLICATE LE TARIFFE ANNO ";
+
 /// The year of a date of effect, "01/04/2008".
 std::string_view yearOf(std::string_view date) {
     constexpr std::size_t digits = 4;
@@ -41,8 +43,15 @@ void frmParametri::cboDeco_Click() {
 
 /// Also without a date, so that the banner does not go on naming a year whose rates are not there.
 void frmParametri::lblDeco_Change() {
-    Label26.text = "\nSONO APPLICATE LE TARIFFE ANNO " + std::string(yearOf(trim(lblDeco.text())));
+    Label26.text = std::string(yearBanner) + std::string(yearOf(trim(lblDeco.text())));
     Label26.tone = Tone::plain;
+}
+
+void frmParametri::leaveDateOfEffect() {
+    lblDeco.text = std::string();
+    if (!Label26.text().starts_with(yearBanner)) return;
+    Label26.text = std::string();
+    Label31_Change();
 }
 
 void frmParametri::Conguagli() {

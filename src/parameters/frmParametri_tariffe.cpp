@@ -80,6 +80,7 @@ void frmParametri::closeStaff() {
 
 void frmParametri::showStaff(const TariffTable& table) {
     for (int row = 0; row < tariffRowCount; ++row) rows[static_cast<std::size_t>(row)].show(table.rates(row));
+    leaveDateOfEffect();
 }
 
 void frmParametri::openStaffRow(RateRow& row) {

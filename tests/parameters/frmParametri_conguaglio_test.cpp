@@ -139,6 +139,35 @@ TEST_F(AdjustmentScreen, AnotherElectionLoadsTheRatesAgain) {
     EXPECT_EQ(text("txtD2Day"), "5,51");
 }
 
+/// The banner and the date must not name a year whose rates are no longer on show.
+TEST_F(AdjustmentScreen, TheTableInForceShownAgainEndsTheDateOfEffect) {
+    ASSERT_TRUE(lay(files, "Params/PmDipc.dat", blockBytes("01/04/2008")));
+    openWithRates("/");
+    tick("Check46");
+    chooseElection("Europee", "06-06-09");
+    choose("cboDeco", "01/04/2008");
+    desktop.box(title, noPercentages);
+    tab(2);
+    tab(0);
+    EXPECT_EQ(text("txtD5Day"), "1,01");
+    EXPECT_EQ(text("lblDeco"), "");
+    EXPECT_EQ(text("Label26"), "\nSONO APPLICATE LE    NUOVE TARIFFE");
+}
+
+TEST_F(AdjustmentScreen, AVersionOfTheTariffsEndsTheDateOfEffect) {
+    ASSERT_TRUE(lay(files, "Params/PmDipc.dat", blockBytes("01/04/2008")));
+    ASSERT_TRUE(lay(files, "Params/NewPmDip.dat", tariffBytes("/", distinctCents)));
+    openWithRates("/");
+    tick("Check46");
+    chooseElection("Europee", "06-06-09");
+    choose("cboDeco", "01/04/2008");
+    tick("Check46", false);
+    EXPECT_EQ(text("Label26"), "\nSONO APPLICATE LE TARIFFE ANNO 2008");
+    click("cmdTarNuove");
+    EXPECT_EQ(text("txtD5Day"), "1,01");
+    EXPECT_EQ(text("Label26"), "\nSONO APPLICATE LE    NUOVE TARIFFE");
+}
+
 TEST_F(AdjustmentScreen, AnElectionWithoutADateOfEffectKeepsTheRatesOnShow) {
     ASSERT_TRUE(lay(files, "Params/PmDipc.dat", nuls(49)));
     prepare("Europee", "06-06-09");
