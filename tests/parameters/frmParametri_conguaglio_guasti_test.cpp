@@ -2,7 +2,6 @@
 // new, and the clerk is told.
 
 #include "parameters_desk.h"
-#include "storage/failing_file_system.h"
 #include "support/laid_out_records.h"
 
 namespace vorbano::test {
@@ -41,26 +40,24 @@ class AdjustmentFaults : public ParametriTest {
             .box("Conguaglio", "Calcolo conguaglio effettuato");
         click("cmdCrea");
     }
-    /// Plays `command` with a failure, then with a stop, at every operation that it has.
+    /// Plays `command` on a disk that fails once, then on one that stops for good, at every operation that it has, and
+    /// once more on the disk mended.
     template <class Command, class Look>
-    void atEveryOperation(Command&& command, Look&& look) {
+    void underEveryFault(const FaultCase& of, Command&& command, Look&& look) {
         prepare();
-        failing.failOnce(0);
-        command();
-        const int operations = failing.operations();
+        const int operations = operationsOf(failing, command);
         EXPECT_GE(operations, 6);
-        for (const bool stops : {false, true}) {
-            for (int n = 1; n <= operations; ++n) {
-                SCOPED_TRACE(::testing::Message() << (stops ? "stopped at " : "failed at ") << n);
+        for (const Fault fault : bothFaults) {
+            atEveryOperation(of, operations, [&](int n) {
                 prepare();
-                stops ? failing.stopAt(n) : failing.failOnce(n);
+                strike(failing, fault, n);
                 command();
-                stops ? failing.stopAt(0) : failing.failOnce(0);
-                if (stops) files.cutPower();
+                failing.failOnce(0);
+                if (fault == Fault::forGood) files.cutPower();
                 expectTold();
                 look();
                 command();
-            }
+            });
         }
     }
 
@@ -84,7 +81,8 @@ TEST_F(AdjustmentFaults, ABlockOfRatesIsOldOrNew) {
     };
     std::string after = blockBefore;
     after.replace(std::size_t{4} * 49 + 25, 8, amount(99, 99));
-    atEveryOperation(saveAnother, [&] { EXPECT_THAT(file("PmDipc.dat"), ::testing::AnyOf(blockBefore, after)); });
+    underEveryFault({"frmParametri.cmdSalva", "rates of a date of effect"}, saveAnother,
+                    [&] { EXPECT_THAT(file("PmDipc.dat"), ::testing::AnyOf(blockBefore, after)); });
     EXPECT_EQ(toHex(file("PmDipc.dat")), toHex(after));
 }
 
@@ -96,12 +94,13 @@ TEST_F(AdjustmentFaults, TheResultsOfARunAreOldOrNew) {
     // Row B6 at 1,00, 2,00 and 3,00: 25 + 30 + 3 = 58,00, and 18 + 20 + 3 = 41,00.
     ASSERT_EQ(toHex(after.substr(49, 8)), toHex(amount(58)));
     ASSERT_EQ(toHex(after1.substr(49, 8)), toHex(amount(41)));
-    atEveryOperation([&] { run(); },
-                     [&] {
-                         EXPECT_THAT(result("Congs.vbn"), ::testing::AnyOf(resultBefore, after));
-                         EXPECT_THAT(result("Congs1.vbn"), ::testing::AnyOf(resultBefore, after1));
-                         EXPECT_EQ(toHex(result("13-04-08.vbn")), toHex(employeeBytes()));
-                     });
+    underEveryFault(
+        {"frmParametri.cmdCrea", "a joint election"}, [&] { run(); },
+        [&] {
+            EXPECT_THAT(result("Congs.vbn"), ::testing::AnyOf(resultBefore, after));
+            EXPECT_THAT(result("Congs1.vbn"), ::testing::AnyOf(resultBefore, after1));
+            EXPECT_EQ(toHex(result("13-04-08.vbn")), toHex(employeeBytes()));
+        });
     EXPECT_EQ(toHex(result("Congs.vbn")), toHex(after));
     EXPECT_EQ(toHex(result("Congs1.vbn")), toHex(after1));
 }
