@@ -174,6 +174,15 @@ TEST_F(ConguaglioLayout, TheStatementOfAnyOtherElectionIsOneLine) {
                                             HasSubstr("TOTALE A CONGUAGLIO"), HasSubstr("€\u00a060,27")));
 }
 
+/// The liquidation of an adjustment leaves its heading behind, perhaps that of another election.
+TEST_F(ConguaglioLayout, OfTwoHeadingsTheLastIsThatOfTheDocument) {
+    heading("Politiche e Comunali");
+    heading("Europee");
+    statement({{"straordinario", 60'27}});
+    EXPECT_THAT(text("Rendcong.rpt"), AllOf(HasSubstr("Europee del 13 Aprile 2008"), HasSubstr("a totale carico"),
+                                            Not(HasSubstr("Politiche"))));
+}
+
 /// What a statement of costs says of the adjustment: the shares only where it is shared in the same way.
 TEST_F(ConguaglioLayout, TheStatementOfCostsEndsWithTheAdjustment) {
     const Amounts costs = {{"straordinario", 1004'63}, {"totale", 1004'63}, {"differenza", 1004'63}};
