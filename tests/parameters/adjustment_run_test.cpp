@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "adjusted_employees.h"
-#include "storage/failing_file_system.h"
 #include "storage/memory_file_system.h"
 #include "storage/record_file.h"
+#include "support/fault_stage.h"
 #include "support/laid_out_records.h"
 #include "support/results.h"
 
@@ -145,29 +145,27 @@ TEST_F(AdjustmentRunOver, AFullListWritesEveryRecord) {
 }
 
 /// The disk fails once, or the power goes, at every operation: the result is old or new.
-TEST_F(AdjustmentRunOver, ADiskThatFailsLeavesWholeFiles) {
+TEST_F(AdjustmentRunOver, FaultsOfTheDiskLeaveWholeFiles) {
     layEmployees(test::employeeBytes());
     const std::string before(145, 'x');
     FailingFileSystem failing{files};
     layResult("Congs.vbn", before);
-    failing.failOnce(0);
-    ASSERT_THAT(runAdjustment(failing, election, distinctRates(), allPeriods), test::Succeeds());
-    const int operations = failing.operations();
+    const int operations = test::operationsOf(
+        failing, [&] { ASSERT_THAT(runAdjustment(failing, election, distinctRates(), allPeriods), test::Succeeds()); });
     ASSERT_GE(operations, 8);
-    for (const bool stops : {false, true}) {
-        for (int n = 1; n <= operations; ++n) {
-            SCOPED_TRACE(n);
+    for (const test::Fault fault : test::bothFaults) {
+        test::atEveryOperation({"frmParametri.cmdCrea", "rule"}, operations, [&](int n) {
             layResult("Congs.vbn", before);
-            stops ? failing.stopAt(n) : failing.failOnce(n);
+            test::strike(failing, fault, n);
             const auto done = runAdjustment(failing, election, distinctRates(), allPeriods);
-            stops ? failing.stopAt(0) : failing.failOnce(0);
-            if (stops) files.cutPower();
+            failing.failOnce(0);
+            if (fault == test::Fault::forGood) files.cutPower();
             EXPECT_THAT(done, ::testing::Not(test::Succeeds()));
             EXPECT_THAT(file("Congs.vbn"), ::testing::AnyOf(before, overAllPeriods()));
             EXPECT_EQ(toHex(file("13-04-08.vbn")), toHex(test::employeeBytes()));
             run(allPeriods);
             EXPECT_EQ(toHex(file("Congs.vbn")), toHex(overAllPeriods()));
-        }
+        });
     }
 }
 

@@ -1,7 +1,7 @@
 // The disk fails or stops at every operation of a save: each file is whole afterwards, old or new.
 
 #include "parameters_desk.h"
-#include "storage/failing_file_system.h"
+#include "support/fault_stage.h"
 
 namespace vorbano::test {
 namespace {
@@ -29,10 +29,9 @@ class Faults : public ParametriTest {
     }
     int operationsOfASave() {
         prepare();
-        failing.failOnce(0);
-        click("cmdSalva");
-        return failing.operations();
+        return operationsOf(failing, [&] { click("cmdSalva"); });
     }
+    const FaultCase inTable{"frmParametri.cmdSalva", "a rate"};
     void expectWhole(const char* name) {
         EXPECT_THAT(file(name), ::testing::AnyOf(before, after)) << name << " is neither old nor new";
     }
@@ -43,32 +42,24 @@ class Faults : public ParametriTest {
 TEST_F(Faults, ASaveThatFailsAtOneOperationLeavesWholeFilesAndIsTold) {
     const int operations = operationsOfASave();
     EXPECT_GE(operations, 4);
-    for (int n = 1; n <= operations; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(inTable, operations, [&](int n) {
         prepare();
-        failing.failOnce(n);
-        click("cmdSalva");
-        failing.failOnce(0);
-        EXPECT_THAT(desktop.finish(),
-                    ::testing::ElementsAre(::testing::HasSubstr("nobody expected the box \"Errore\"")));
+        failingOnce(failing, n, [&] { click("cmdSalva"); });
+        EXPECT_THAT(desktop.finish(), onlyAnError());
         expectWhole("PmDip.dat");
         expectWhole("NewPmDip.dat");
-    }
+    });
 }
 
 TEST_F(Faults, ASaveThatStopsAndLosesThePowerLeavesWholeFiles) {
     const int operations = operationsOfASave();
-    for (int n = 1; n <= operations; ++n) {
-        SCOPED_TRACE(n);
+    atEveryOperation(inTable, operations, [&](int n) {
         prepare();
-        failing.stopAt(n);
-        click("cmdSalva");
-        failing.stopAt(0);
-        files.cutPower();
+        cuttingPower(failing, files, n, [&] { click("cmdSalva"); });
         EXPECT_THAT(desktop.finish(), ::testing::Not(::testing::IsEmpty()));
         expectWhole("PmDip.dat");
         expectWhole("NewPmDip.dat");
-    }
+    });
 }
 
 TEST_F(Faults, WhatWasNotStoredStaysOpenAndCanBeSavedAgain) {
@@ -133,6 +124,61 @@ TEST_F(Faults, TheOtherTwoSavesTellTheirFailureToo) {
     EXPECT_EQ(file("PmSeg.dat"), "");
     EXPECT_EQ(file("Conprev.dat"), "");
 }
+
+/// The saves of the other two tabs: one field is changed.
+struct TabCase {
+    const char* command;
+    const char* path;
+    int page;
+    const char* box;
+    const char* field;
+    const char* typed;
+    std::string before, after;
+};
+void PrintTo(const TabCase& each, std::ostream* out) { *out << each.command; }
+
+int changedSecretary(int number, int kind) { return number == 1 && kind == 0 ? 9999 : distinctCents(number, kind); }
+const std::string otherPercentages = amount(8, 50) + amount(8, 80) + amount(0, 35);
+
+class TabFaults : public Faults, public ::testing::WithParamInterface<TabCase> {};
+
+TEST_P(TabFaults, OfASaveLeaveAWholeFileAndTheSaveCanBeGivenAgain) {
+    const TabCase& of = GetParam();
+    const auto ready = [&] {
+        failing.failOnce(0);
+        ASSERT_TRUE(lay(files, "Params/PmDip.dat", before));
+        ASSERT_TRUE(lay(files, of.path, of.before));
+        openOn(failing, staging, printing);
+        tab(of.page);
+        tick(of.box);
+        type(of.field, of.typed);
+    };
+    ready();
+    const int operations = operationsOf(failing, [&] { click(of.command); });
+    EXPECT_EQ(toHex(contentOf(files, of.path)), toHex(of.after));
+    EXPECT_EQ(operations, 3) << "opened, written, flushed";
+    for (const Fault fault : bothFaults) {
+        atEveryOperation({std::string("frmParametri.") + of.command, "one field"}, operations, [&](int n) {
+            ready();
+            strike(failing, fault, n);
+            click(of.command);
+            failing.failOnce(0);
+            if (fault == Fault::forGood) files.cutPower();
+            EXPECT_THAT(desktop.finish(), onlyAnError());
+            EXPECT_THAT(contentOf(files, of.path), ::testing::AnyOf(of.before, of.after));
+            click(of.command);
+            EXPECT_EQ(toHex(contentOf(files, of.path)), toHex(of.after));
+        });
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Of, TabFaults,
+    ::testing::Values(TabCase{"cmdSalva1", "Params/PmSeg.dat", 1, "Check15", "txtSc8qfDay", "99,99",
+                              secretaryBytes(distinctCents), secretaryBytes(changedSecretary)},
+                      TabCase{"cmdSalva2", "Params/Conprev.dat", 2, "Check22", "txtContrPrev", "24",
+                              amount(23, 80) + otherPercentages, amount(24) + otherPercentages}),
+    [](const auto& each) { return std::string(each.param.command); });
 
 }  // namespace
 }  // namespace vorbano::test

@@ -11,7 +11,7 @@
 #include "records/payment_records.h"
 #include "reports/payments_due.h"
 #include "stampe_desk.h"
-#include "storage/failing_file_system.h"
+#include "support/fault_stage.h"
 
 namespace vorbano::test {
 namespace {
@@ -177,23 +177,24 @@ TEST_F(Contributi, WithoutEmployeesNothingIsSetToNothing) {
     EXPECT_EQ(toHex(contentOf(files, path)), toHex(before));
 }
 
-TEST_F(Contributi, ADiskThatFailsLeavesTheDocumentsOldOrNew) {
-    for (const bool once : {true, false}) {
-        for (int n = 1;; ++n) {
-            SCOPED_TRACE(n);
+TEST_F(Contributi, FaultsOfTheDiskLeaveTheDocumentsOldOrNew) {
+    FailingFileSystem failing(files);
+    const Workplace broken{failing, desktop, staging, printing, screens, places};
+    const auto print = [&] { return printContributi(broken, {"Europee", "26-05-13"}, {true, false}, heading); };
+    layAll();
+    const int operations = operationsOf(failing, [&] { EXPECT_THAT(print(), Succeeds()); });
+    for (const Fault fault : bothFaults) {
+        atEveryOperation({"frmTutteStampe.cmdContributi", "new amounts"}, operations, [&](int n) {
             layAll();
-            FailingFileSystem failing(files);
-            const Workplace broken{failing, desktop, staging, printing, screens, places};
-            once ? failing.failOnce(n) : failing.stopAt(n);
-            const auto done = printContributi(broken, {"Europee", "26-05-13"}, {true, false}, heading);
+            strike(failing, fault, n);
+            EXPECT_FALSE(print().ok());
+            failing.failOnce(0);
+            if (fault == Fault::forGood) files.cutPower();
             EXPECT_THAT(contentOf(files, path), AnyOf(before, after));
             expectEmptyTables();
-            if (failing.operations() < n) break;
-            EXPECT_FALSE(done.ok());
-            failing.failOnce(0);
-            EXPECT_THAT(printContributi(broken, {"Europee", "26-05-13"}, {true, false}, heading), Succeeds());
+            EXPECT_THAT(print(), Succeeds());
             EXPECT_EQ(toHex(contentOf(files, path)), toHex(after));
-        }
+        });
     }
 }
 

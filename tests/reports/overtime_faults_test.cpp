@@ -3,7 +3,7 @@
 #include "reports/impegno.h"
 #include "reports/lrendiconto.h"
 #include "stampe_desk.h"
-#include "storage/failing_file_system.h"
+#include "support/fault_stage.h"
 
 namespace vorbano::test {
 namespace {
@@ -78,17 +78,16 @@ TEST_P(OvertimeFaults, DiskThatFailsAtAnyPointLeavesRecordsAndTablesAsTheyWere) 
                                contentOf(files, folder + "Pentium.vbn") + contentOf(files, folder + "Meirin.vbn");
     FailingFileSystem failing(files);
     const Workplace onBadDisk{failing, desktop, staging, printing, screens, places};
-    ASSERT_THAT(GetParam().print(onBadDisk), Succeeds());
-    const int operations = failing.operations();
+    const int operations = operationsOf(failing, [&] { ASSERT_THAT(GetParam().print(onBadDisk), Succeeds()); });
     ASSERT_GT(operations, 10);
     printing.jobs.clear();
-    for (int n = 1; n <= operations; ++n) {
+    atEveryOperation({"frmTutteStampe", GetParam().name}, operations, [&](int n) {
         failing.failOnce(n);
-        EXPECT_FALSE(GetParam().print(onBadDisk).ok()) << n;
-        EXPECT_TRUE(printing.jobs.empty()) << n;
+        EXPECT_FALSE(GetParam().print(onBadDisk).ok());
+        EXPECT_TRUE(printing.jobs.empty());
         printing.jobs.clear();
         expectEmptyTables();
-    }
+    });
     EXPECT_EQ(contentOf(files, folder + "26-05-13.vbn") + contentOf(files, folder + "Quartum.vbn") +
                   contentOf(files, folder + "Pentium.vbn") + contentOf(files, folder + "Meirin.vbn"),
               before);

@@ -1,29 +1,11 @@
+#include "failing_desk.h"
 #include "reports/rendiconto.h"
 #include "stampe_desk.h"
 #include "statement_files.h"
-#include "storage/failing_file_system.h"
+#include "support/fault_stage.h"
 
 namespace vorbano::test {
 namespace {
-
-/// A print engine whose layout is not there.
-class NoLayout : public RecordingPrintEngine {
-  public:
-    Result<> run(const PrintJob& job) override { return Error{Failure::notFound, job.layout}; }
-};
-
-/// A database that fails at its n-th appending.
-class FailingDatabase : public MemoryDatabase {
-  public:
-    FailingDatabase() : MemoryDatabase(stagingTables()) {}
-    int failAt = 0;
-    int appends = 0;
-
-    Result<> append(std::string_view table, const Row& row) override {
-        if (++appends == failAt) return Error{Failure::device, "dbStampa.mdb"};
-        return MemoryDatabase::append(table, row);
-    }
-};
 
 class RendicontoFaults : public ReportsDesk {
   protected:
@@ -92,17 +74,17 @@ TEST_F(RendicontoFaults, DiskThatFailsAtAnyPointPrintsNothing) {
         const std::string before = contentOf(files, rendi);
         FailingFileSystem failing(files);
         const Workplace onBadDisk{failing, desktop, staging, printing, screens, places};
-        ASSERT_THAT(printRendiconto(onBadDisk, election, {}), Succeeds());
-        const int operations = failing.operations();
+        const int operations =
+            operationsOf(failing, [&] { ASSERT_THAT(printRendiconto(onBadDisk, election, {}), Succeeds()); });
         ASSERT_GT(operations, 5);
         printing.jobs.clear();
-        for (int n = 1; n <= operations; ++n) {
+        atEveryOperation({"frmTutteStampe", std::string("statement ") + kind}, operations, [&](int n) {
             failing.failOnce(n);
-            EXPECT_FALSE(printRendiconto(onBadDisk, election, {}).ok()) << kind << " " << n;
-            EXPECT_TRUE(printing.jobs.empty()) << kind << " " << n;
+            EXPECT_FALSE(printRendiconto(onBadDisk, election, {}).ok());
+            EXPECT_TRUE(printing.jobs.empty());
             printing.jobs.clear();
             expectEmptyTables();
-        }
+        });
         EXPECT_EQ(contentOf(files, rendi), before);
     }
 }

@@ -1,6 +1,6 @@
 #include "failing_desk.h"
 #include "stampe_seggi_desk.h"
-#include "storage/failing_file_system.h"
+#include "support/fault_stage.h"
 
 namespace vorbano::test {
 namespace {
@@ -63,17 +63,16 @@ TEST_P(StationFaults, DiskThatFailsAtAnyPointLeavesRecordsAndTablesAsTheyWere) {
     const std::string before = allStationBytes(files, election.type);
     FailingFileSystem failing(files);
     const Workplace onBadDisk{failing, desktop, staging, printing, screens, places};
-    ASSERT_THAT(GetParam().print(onBadDisk), Succeeds());
-    const int operations = failing.operations();
+    const int operations = operationsOf(failing, [&] { ASSERT_THAT(GetParam().print(onBadDisk), Succeeds()); });
     ASSERT_GT(operations, 5);
     printing.jobs.clear();
-    for (int n = 1; n <= operations; ++n) {
+    atEveryOperation({"frmTutteStampe", std::string("stations ") + GetParam().name}, operations, [&](int n) {
         failing.failOnce(n);
-        EXPECT_FALSE(GetParam().print(onBadDisk).ok()) << n;
-        EXPECT_TRUE(printing.jobs.empty()) << n;
+        EXPECT_FALSE(GetParam().print(onBadDisk).ok());
+        EXPECT_TRUE(printing.jobs.empty());
         printing.jobs.clear();
         expectEmptyTables();
-    }
+    });
     EXPECT_EQ(allStationBytes(files, election.type), before);
 }
 
