@@ -18,6 +18,7 @@
 #include "storage/memory_file_system.h"
 #include "support/bytes.h"
 #include "support/expected_tariffs.h"
+#include "support/fault_stage.h"
 #include "support/places.h"
 
 namespace vorbano::test {
