@@ -91,6 +91,6 @@ function(vorbano_test name)
   else()
     target_precompile_headers(${name} REUSE_FROM vorbano_test_headers)
   endif()
-  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES ENVIRONMENT
-    "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=/nonexistent;VORBANET_ROOT=/nonexistent")
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES FIXTURES_SETUP unit ENVIRONMENT
+    "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=/nonexistent;VORBANET_ROOT=/nonexistent;VORBANO_FAULTS=${CMAKE_BINARY_DIR}/faults")
 endfunction()

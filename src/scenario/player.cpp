@@ -265,6 +265,9 @@ void Player::playGesture(const Line& line) {
     }
     met("screen", form->name());
     if (control != nullptr) met("control", form->name() + "." + control->name());
+    // Tab and closing are the work of the field that has the focus.
+    const Control* atWork = control != nullptr ? control : form->focused();
+    if (stage_.surface != nullptr && atWork != nullptr) stage_.surface->worksAt(form->name() + "." + atWork->name());
     // What the gesture brings about is played inside it, so the next line is in turn before the hands move.
     advance();
     const std::string inTheWay = hands_.make(line, *form, control);

@@ -15,11 +15,10 @@ void Surface::met(std::string_view kind, std::string_view what) {
         }
     }
     lines_.insert(std::move(line));
-    if (kind == "control") lastControl_ = what;
 }
 
 void Surface::wrote() {
-    if (!lastControl_.empty()) met("writes", lastControl_);
+    if (!atWork_.empty()) met("writes", atWork_);
 }
 
 Surface::~Surface() {

@@ -18,13 +18,15 @@ class Surface {
     ~Surface();
 
     void met(std::string_view kind, std::string_view what);
-    /// A file was changed by what the control does that was met last ("writes frmElimina.cmdElimina").
+    /// From here on this control is at work.
+    void worksAt(std::string_view control) { atWork_ = control; }
+    /// A file was changed by what the control at work does ("writes frmElimina.cmdElimina").
     void wrote();
 
   private:
     std::filesystem::path file_;
     std::set<std::string> lines_;
-    std::string lastControl_;
+    std::string atWork_;
 };
 
 }  // namespace vorbano

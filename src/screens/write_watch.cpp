@@ -46,7 +46,10 @@ void WriteWatch::notice(const Unwritten& unwritten) {
 }
 
 void WriteWatch::heard(const Message& message) {
-    std::erase_if(unwritten_, [&](const Unwritten& one) { return names(message.text, one.error.subject); });
+    const bool isWarning = message.icon == Icon::warning || message.icon == Icon::error;
+    std::erase_if(unwritten_, [&](const Unwritten& one) {
+        return (isWarning && one.isOpening) || names(message.text, one.error.subject);
+    });
     told_.push_back(message.text);
 }
 

@@ -38,7 +38,8 @@ class WriteWatch {
     };
 
     void notice(const Unwritten& unwritten);
-    /// Takes what the message names off the list.
+    /// Takes what the message names off the list. A file that could not even be opened may have been wanted for reading
+    /// only, and then the screen has words of its own for it, of warning or of error.
     void heard(const Message& message);
     void tellWhatIsLeft();
 

@@ -35,7 +35,7 @@ Result<> NoticingFileSystem::Notices::of(Result<> result, bool isFolder) const {
     if (result) {
         if (changed && !isFolder) changed();
     } else if (isOfTheDisk(result.error().kind)) {
-        unwritten({result.error(), isFolder});
+        unwritten({.error = result.error(), .isFolder = isFolder});
     }
     return result;
 }
@@ -43,7 +43,7 @@ Result<> NoticingFileSystem::Notices::of(Result<> result, bool isFolder) const {
 Result<std::unique_ptr<File>> NoticingFileSystem::open(std::string_view path) {
     auto file = real_.open(path);
     if (!file) {
-        if (isOfTheDisk(file.error().kind)) notices_.unwritten({file.error()});
+        if (isOfTheDisk(file.error().kind)) notices_.unwritten({.error = file.error(), .isOpening = true});
         return file;
     }
     return std::unique_ptr<File>(std::make_unique<NoticingFile>(std::move(*file), notices_));

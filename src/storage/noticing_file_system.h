@@ -12,6 +12,7 @@ namespace vorbano {
 struct Unwritten {
     Error error;  ///< `diskFull`, `refused` or `device`, and the name below the root
     bool isFolder = false;
+    bool isOpening = false;  ///< nothing was to be written yet
 };
 
 /// Forwards to another file system and tells of every file and folder that could not be written, made, replaced or

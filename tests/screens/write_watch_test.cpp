@@ -114,6 +114,26 @@ TEST_F(Watched, WhatTheScreenTellsIsNotToldAgain) {
     giveCommand();
 }
 
+TEST_F(Watched, AFileThatIsNotEvenOpenedIsLeftToTheWordsOfTheScreen) {
+    disk.makeReadOnly("Elezioni/Meirin.vbn");
+    cmdSalva.clicked.calls([this] {
+        store("Elezioni/Meirin.vbn");
+        watch.desktop().tell({"Dati inesistenti", "Prova", Icon::warning});
+    });
+    boxes = {{"Prova", "Dati inesistenti"}};
+    giveCommand();
+}
+
+TEST_F(Watched, AFileThatIsNotEvenOpenedIsToldBesideAMessageThatAllIsWell) {
+    disk.makeReadOnly("Elezioni/Meirin.vbn");
+    cmdSalva.clicked.calls([this] {
+        store("Elezioni/Meirin.vbn");
+        watch.desktop().tell({"Operazione terminata", "Prova", Icon::information});
+    });
+    boxes = {{"Prova", "Operazione terminata"}, {"Errore", std::string("Il file Elezioni/Meirin.vbn") + readOnly}};
+    giveCommand();
+}
+
 TEST_F(Watched, AFolderIsNotToldByTheNameOfAFileInIt) {
     disk.makeReadOnly("");
     cmdSalva.clicked.calls([this] {
@@ -158,11 +178,11 @@ TEST_F(Watched, EveryGestureIsACommand) {
 }
 
 TEST_F(Watched, TheDiskThatBreaksIsToldInItsOwnWords) {
-    EXPECT_EQ(inItalian({Unwritten{{Failure::device, "Elezioni"}, true}}),
+    EXPECT_EQ(inItalian({Unwritten{.error = {Failure::device, "Elezioni"}, .isFolder = true}}),
               "Il disco non ha completato l'operazione sulla cartella Elezioni.");
-    EXPECT_EQ(inItalian({Unwritten{{Failure::diskFull, ""}, true}}),
+    EXPECT_EQ(inItalian({Unwritten{.error = {Failure::diskFull, ""}, .isFolder = true}}),
               "La cartella dell'installazione non è stata creata: il disco è pieno.");
-    EXPECT_EQ(inItalian({Unwritten{{Failure::device, "Params/Ente.dat"}}}),
+    EXPECT_EQ(inItalian({Unwritten{.error = {Failure::device, "Params/Ente.dat"}}}),
               "Il disco non ha completato l'operazione sul file Params/Ente.dat.");
 }
 

@@ -251,6 +251,43 @@ TEST_F(SpecialFaults, AMemberThatCannotBeStoredStaysOnTheScreenAndIsNeverStoredT
     });
 }
 
+TEST_F(SpecialFaults, AReductionChangesAllRecordsOrNone) {
+    const auto stored = [](int stations) {
+        std::string bytes;
+        for (const int station : {4, 7, 12}) {
+            MemberOnPaper member{.station = station, .size = 1, .fee = 9'000};
+            member.stations = stations;
+            bytes += memberBytes(member);
+        }
+        return bytes;
+    };
+    const auto ready = [&] {
+        failing.failOnce(0);
+        files.remove(seggiRevPath).ignore();
+        ASSERT_TRUE(lay(files, specialePath, stored(3)));
+        openScreenOn(failing);
+        chooseElection("2");
+        box("inserimento seggi", fewerStations(3), Answer::yes);
+    };
+    ready();
+    const int operations = operationsOf(failing, [&] { click("cmdAttiva"); });
+    EXPECT_EQ(toHex(file(specialePath)), toHex(stored(2)));
+    int told = 0;
+    for (const Fault fault : bothFaults) {
+        atEveryOperation({"frmSeggiSpeciali.cmdAttiva", "fewer stations"}, operations, [&](int n) {
+            ready();
+            strike(failing, fault, n);
+            click("cmdAttiva");
+            failing.failOnce(0);
+            if (fault == Fault::forGood) files.cutPower();
+            told += desktop.finish().empty() ? 0 : 1;
+            EXPECT_THAT(toHex(file(specialePath)), AnyOf(toHex(stored(3)), toHex(stored(2))));
+        });
+    }
+    // As with the normal stations.
+    EXPECT_GE(told, 2 * operations - 4);
+}
+
 TEST_F(SpecialFaults, AListOfStationsThatCannotBeReadIsToldAndTheEntryGoesOn) {
     openScreenOn(failing);
     chooseElection();

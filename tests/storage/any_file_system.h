@@ -1,6 +1,6 @@
 #pragma once
 
-// The three file systems under one suite: TEST_P(X, ...) of a fixture derived from AnyFileSystem runs on each.
+// All file systems under one suite: TEST_P(X, ...) of a fixture derived from AnyFileSystem runs on each.
 
 #include <gmock/gmock.h>
 
@@ -10,11 +10,12 @@
 #include "storage/disk_file_system.h"
 #include "storage/failing_file_system.h"
 #include "storage/memory_file_system.h"
+#include "storage/noticing_file_system.h"
 #include "support/temporary_folder.h"
 
 namespace vorbano::test {
 
-enum class Kind { disk, memory, failingNowhere };
+enum class Kind { disk, memory, failingNowhere, noticing };
 
 inline std::string nameOf(const ::testing::TestParamInfo<Kind>& info) {
     switch (info.param) {
@@ -22,6 +23,8 @@ inline std::string nameOf(const ::testing::TestParamInfo<Kind>& info) {
             return "OnDisk";
         case Kind::memory:
             return "InMemory";
+        case Kind::noticing:
+            return "ThroughTheNoticingOne";
         case Kind::failingNowhere:
             break;
     }
@@ -41,6 +44,9 @@ class AnyFileSystem : public ::testing::TestWithParam<Kind> {
             case Kind::failingNowhere:
                 files_ = &failing_;
                 break;
+            case Kind::noticing:
+                files_ = &noticing_;
+                break;
         }
     }
     FileSystem& files() { return *files_; }
@@ -49,14 +55,16 @@ class AnyFileSystem : public ::testing::TestWithParam<Kind> {
     TemporaryFolder folder_;
     MemoryFileSystem memory_;
     FailingFileSystem failing_{memory_};
+    NoticingFileSystem noticing_{memory_, [](const Unwritten&) {}};
     std::optional<DiskFileSystem> disk_;
     FileSystem* files_ = nullptr;
 };
 
 }  // namespace vorbano::test
 
-#define ON_EVERY_FILE_SYSTEM(Fixture)                                                                      \
-    INSTANTIATE_TEST_SUITE_P(Storage, Fixture,                                                             \
-                             ::testing::Values(::vorbano::test::Kind::disk, ::vorbano::test::Kind::memory, \
-                                               ::vorbano::test::Kind::failingNowhere),                     \
-                             ::vorbano::test::nameOf)
+#define ON_EVERY_FILE_SYSTEM(Fixture)                                                              \
+    INSTANTIATE_TEST_SUITE_P(                                                                      \
+        Storage, Fixture,                                                                          \
+        ::testing::Values(::vorbano::test::Kind::disk, ::vorbano::test::Kind::memory,              \
+                          ::vorbano::test::Kind::failingNowhere, ::vorbano::test::Kind::noticing), \
+        ::vorbano::test::nameOf)
