@@ -80,12 +80,17 @@ function(vorbano_form)
   endforeach()
 endfunction()
 
-# vorbano_test(NAME [TOOLKIT] [SOURCES ...] [LINKS ...]): one test program for one folder of tests/.
+# vorbano_test(NAME [TOOLKIT] [BATCHES] [SOURCES ...] [LINKS ...]): one test program for one folder of tests/. With BATCHES
+# its sources are compiled eight at a time, a third of the work; a name in an unnamed namespace is then used once a folder.
 function(vorbano_test name)
-  cmake_parse_arguments(ARG "TOOLKIT" "" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "TOOLKIT;BATCHES" "" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE ${ARG_LINKS} vorbano_flags GTest::gmock_main)
   target_compile_options(${name} PRIVATE -O0)
+  if(ARG_BATCHES)
+    set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
+    target_compile_options(${name} PRIVATE -Wno-shadow $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
+  endif()
   if(ARG_TOOLKIT)
     target_precompile_headers(${name} PRIVATE ${testHeaders} ${toolkitHeaders})
   else()

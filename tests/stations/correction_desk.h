@@ -70,6 +70,9 @@ inline constexpr Who longo = {2, 2, 2, "LONGO", "TERESA", "Via Dante 40", "Segre
 inline constexpr Who neri = {3, 3, 1, "NERI", "ALDO", "Via Po 2", "Presidente", "NRELDA64L17F205M", 13'800};
 inline constexpr Who orsini = {3, 3, 2, "ORSINI", "BIANCA", "Via Adige 9", "Segretario", "RSNBNC82R58H501P", 11'040};
 inline constexpr Who pace = {3, 3, 3, "PACE", "CARLO", "Via Arno 31", "Scrutatore", "PCACRL93S03F205B", 9'600};
+// Two who are not in the files yet.
+inline constexpr Who sarti = {1, 4, 5, "SARTI", "DINA", "Via Nera 1", "Scrutatore", "SRTDNI79A41H501L", 4'800};
+inline constexpr Who tosi = {1, 4, 6, "TOSI", "ELIO", "Via Bianca 2", "Segretario", "TSOLEI81B02H501T", 5'520};
 
 inline const std::vector<Who> threeStations = {bellini, conti, amico, ferrari, galli, longo, neri, orsini, pace};
 

@@ -13,9 +13,6 @@ using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-constexpr Who sarti = {1, 4, 5, "SARTI", "DINA", "Via Nera 1", "Scrutatore", "SRTDNI79A41H501L", 4'800};
-constexpr Who tosi = {1, 4, 6, "TOSI", "ELIO", "Via Bianca 2", "Segretario", "TSOLEI81B02H501T", 5'520};
-
 std::vector<Who> withFee(std::size_t at, int cents) {
     std::vector<Who> people = threeStations;
     people[at].cents = cents;

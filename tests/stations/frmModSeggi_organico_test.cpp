@@ -115,7 +115,6 @@ TEST_F(ModSeggiOrganico, GivesTheNextPlaceInAStationWhoseEntryHasStopped) {
 }
 
 TEST_F(ModSeggiOrganico, LeavesTheSubstitutesAsTheyAre) {
-    const Who sarti = {1, 4, 5, "SARTI", "DINA", "Via Nera 1", "Scrutatore", "SRTDNI79A41H501L", 4'800};
     layIn("SosSeggi.vbn", substituteBytes(sarti, 4));
     openAt("1");
     begin("Check4");
@@ -177,7 +176,6 @@ TEST_F(ModSeggiOrganico, LetsOnlyAScrutineerBeChosen) {
 }
 
 TEST_F(ModSeggiOrganico, RemovesAMember) {
-    const Who sarti = {1, 4, 5, "SARTI", "DINA", "Via Nera 1", "Scrutatore", "SRTDNI79A41H501L", 4'800};
     layIn("SosSeggi.vbn", substituteBytes(sarti, 3));
     openAt("1");
     begin("Check5");

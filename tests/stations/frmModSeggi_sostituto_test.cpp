@@ -7,8 +7,6 @@ namespace {
 
 using ModSeggiSostituto = ModSeggiTest;
 
-constexpr Who sarti = {1, 4, 5, "SARTI", "DINA", "Via Nera 1", "Scrutatore", "SRTDNI79A41H501L", 4'800};
-constexpr Who tosi = {1, 4, 6, "TOSI", "ELIO", "Via Bianca 2", "Segretario", "TSOLEI81B02H501T", 5'520};
 constexpr Who elsewhere = {2, 2, 3, "UNGARO", "FILIPPO", "Via Rossa 3", "Segretario", "NGRFPP69C03H501K", 2'500};
 
 /// The shares that the two records hold after the commands of the test.

@@ -21,7 +21,7 @@ constexpr FieldInfo fields[] = {
     {"Numero", "", 12, 4, FieldType::longInteger},       {"Postali", "Assunzioni", 16, 8, FieldType::currency},
     {"Assunzioni", "Text1", 24, 8, FieldType::currency}, {"Dal", "", 32, 8, FieldType::date},
 };
-constexpr std::size_t width = 40;
+constexpr std::size_t recordWidth = 40;
 
 std::string shown(std::string_view name, std::string_view record) {
     const FieldInfo* field = findField(fields, name);
@@ -29,9 +29,9 @@ std::string shown(std::string_view name, std::string_view record) {
 }
 
 TEST(FieldTable, CoversTheRecordWithoutAGap) {
-    static_assert(coversWhole(fields, width));
-    static_assert(!coversWhole(fields, width + 1));
-    static_assert(!coversWhole(std::span(fields).subspan(1), width));
+    static_assert(coversWhole(fields, recordWidth));
+    static_assert(!coversWhole(fields, recordWidth + 1));
+    static_assert(!coversWhole(std::span(fields).subspan(1), recordWidth));
     static_assert(coversWhole({}, 0));
 }
 
@@ -48,7 +48,7 @@ TEST(FieldTable, PutsANameBeforeTheScreenNameOfAnother) { EXPECT_EQ(findField(fi
 TEST(FieldText, IsWhatTheClerkReads) {
     const std::string record = padded(fromHex("20 46 6f 72 6c ec"), 10) + le16(-40) + le32(70'000) + amount(1234, 50) +
                                amount(-170, 5) + padded("//", 8);
-    ASSERT_EQ(record.size(), width);
+    ASSERT_EQ(record.size(), recordWidth);
     EXPECT_EQ(shown("Nome", record), "Forlì");
     EXPECT_EQ(shown("NumDip", record), "-40");
     EXPECT_EQ(shown("Numero", record), "70000");
@@ -68,10 +68,10 @@ TEST(FieldText, ShowsFourDecimalsWhereTheyAreNotZero) {
 }
 
 TEST(FieldText, OfAFieldNeverAssignedIsEmptyOrZero) {
-    EXPECT_EQ(shown("Nome", nuls(width)), "");
-    EXPECT_EQ(shown("NumDip", nuls(width)), "0");
-    EXPECT_EQ(shown("Postali", nuls(width)), "0,00");
-    EXPECT_EQ(shown("Dal", nuls(width)), "");
+    EXPECT_EQ(shown("Nome", nuls(recordWidth)), "");
+    EXPECT_EQ(shown("NumDip", nuls(recordWidth)), "0");
+    EXPECT_EQ(shown("Postali", nuls(recordWidth)), "0,00");
+    EXPECT_EQ(shown("Dal", nuls(recordWidth)), "");
 }
 
 TEST(FieldText, TakesWhatAShortRecordDoesNotHoldAsZeros) {

@@ -9,7 +9,7 @@ using ::testing::AllOf;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-struct Document {
+struct PaymentPaper {
     std::string key;
     std::string kind;
     std::string percent;
@@ -21,7 +21,7 @@ struct Document {
 
 class PaymentsLayout : public ReportDesk {
   protected:
-    void document(const Document& one) {
+    void document(const PaymentPaper& one) {
         append("Tabella11", Row()
                                 .setText("Comune", "CASTELFRANCO VENETO")
                                 .setText("Elezioni", "Europee")
