@@ -26,6 +26,7 @@ bool names(std::string_view text, std::string_view name) {
 
 std::string inItalian(const std::vector<Unwritten>& unwritten) {
     std::vector<std::string> sentences;
+    sentences.reserve(unwritten.size());
     for (const Unwritten& one : unwritten) {
         sentences.push_back(one.isFolder ? folderInItalian(one.error) : inItalian(one.error));
     }

@@ -14,17 +14,21 @@ using ::testing::AnyOf;
 using ::testing::Contains;
 
 using Files = std::map<std::string, std::string>;
-const std::string folder = "Elezioni/Europee/07-06-09/";
 
 /// One fresh disk, desk and screen.
 struct Bench : FaultStage<frmModStraord> {
-    explicit Bench(const Files& files) {
-        for (const auto& [name, content] : files) EXPECT_TRUE(lay(disk, folder + name, content));
+    const std::string electionType;
+
+    explicit Bench(const Files& files, const char* type = "Europee") : electionType(type) {
+        for (const auto& [name, content] : files) EXPECT_TRUE(lay(disk, path(name), content));
         EXPECT_TRUE(lay(disk, "Params/Conprev.dat", amount(23, 80) + amount(8, 50) + amount(8, 80) + amount(0, 35)));
+    }
+    [[nodiscard]] std::string path(const std::string& name) const {
+        return "Elezioni/" + electionType + "/07-06-09/" + name;
     }
     void open() {
         openScreen();
-        choose("Combo1", "Europee");
+        choose("Combo1", electionType);
         type("txtDataEle", "07/06/09");
     }
     void callUp(const char* number) {
@@ -44,7 +48,7 @@ struct Bench : FaultStage<frmModStraord> {
     }
     Files files(const Files& like) {
         Files now;
-        for (const auto& each : like) now[each.first] = contentOf(disk, folder + each.first);
+        for (const auto& each : like) now[each.first] = contentOf(disk, path(each.first));
         return now;
     }
 };
@@ -143,6 +147,13 @@ const std::vector<Command>& commands() {
              }
          },
          "cmdAttiva2", withLimits(laid(), limitsBytes({0, 1, 1}, 0))},
+        {"Liquidazione", withLimits(laid(), limitsBytes({0, 1, 1}, 0)),
+         [](Bench& bench) {
+             bench.open();
+             bench.menu("mnuLiqui");
+             bench.tick("Check5");
+         },
+         "cmdAttiva", withLimits(laid(), limitsBytes({1, 1, 1}, 0))},
     };
     return all;
 }
@@ -206,6 +217,85 @@ TEST_P(GuastiLiquidazione, AfterAPowerCutEachFileIsOldOrNewAndTheWorkIsDoneAgain
 INSTANTIATE_TEST_SUITE_P(Commands, GuastiLiquidazione, ::testing::ValuesIn(commands()),
                          [](const auto& command) { return std::string(command.param.name); });
 
+/// A date that was missing: it is stored in every record when the field is left.
+struct DateField {
+    const char* name;
+    const char* apri;
+    const char* file;
+    std::size_t width, offset;
+};
+void PrintTo(const DateField& field, std::ostream* out) { *out << field.name; }
+
+Files withDate(Files files, const DateField& field, std::string_view date) {
+    std::string& bytes = files[field.file];
+    for (std::size_t at = field.offset; at < bytes.size(); at += field.width) bytes.replace(at, 8, date);
+    return files;
+}
+
+const DateField dateFields[] = {
+    {"txtPrimoDal", "cmdApri1", "07-06-09.vbn", 301, 72},  {"txtPrimoAl", "cmdApri1", "07-06-09.vbn", 301, 80},
+    {"txtSecDal", "cmdApri2", "07-06-09.vbn", 301, 102},   {"txtSecAl", "cmdApri2", "07-06-09.vbn", 301, 110},
+    {"txtTerDal", "cmdApri3", "07-06-09.vbn", 301, 132},   {"txtTerAl", "cmdApri3", "07-06-09.vbn", 301, 140},
+    {"txtQuartusDal", "cmdApri4", "Quartum.vbn", 241, 72}, {"txtQuartusAl", "cmdApri4", "Quartum.vbn", 241, 80},
+    {"txtPentiumDal", "cmdApri5", "Pentium.vbn", 241, 72}, {"txtPentiumAl", "cmdApri5", "Pentium.vbn", 241, 80}};
+
+/// Five periods, each with its two dates.
+Files allDates() {
+    constexpr const char* dates[] = {"15-04-09", "14-05-09", "15-05-09", "24-05-09", "25-05-09",
+                                     "31-05-09", "01-06-09", "07-06-09", "08-06-09", "12-06-09"};
+    Files files = laid();
+    files["Pentium.vbn"] = files["Quartum.vbn"];
+    for (std::size_t at = 0; at < std::size(dates); ++at) files = withDate(files, dateFields[at], dates[at]);
+    return files;
+}
+
+constexpr const char* withFivePeriods = "Europee_Comunali";
+
+class GuastiDate : public ::testing::TestWithParam<DateField> {};
+
+TEST_P(GuastiDate, TheFieldThatIsLeftStoresItsDateInAllRecordsOrInNone) {
+    const DateField& field = GetParam();
+    const Files after = allDates();
+    const Files before = withDate(after, field, "        ");
+    const std::string date = after.at(field.file).substr(field.offset, 8);
+    const auto ready = [&](Bench& bench) {
+        bench.callUp("1");
+        bench.click(field.apri);
+        bench.type(field.name, date.c_str());
+        bench.desk.told.clear();
+    };
+    int all = 0;
+    {
+        Bench bench(before, withFivePeriods);
+        ready(bench);
+        all = operationsOf(bench.failing, [&] { bench.leave(); });
+        EXPECT_EQ(toHex(bench.files(after).at(field.file)), toHex(after.at(field.file)));
+        EXPECT_EQ(bench.files(after), after);
+    }
+    ASSERT_GE(all, 6);
+    for (const Fault fault : bothFaults) {
+        atEveryOperation({std::string("frmModStraord.") + field.name, "a missing date"}, all, [&](int n) {
+            Bench bench(before, withFivePeriods);
+            ready(bench);
+            strike(bench.failing, fault, n);
+            bench.leave();
+            bench.failing.failOnce(0);
+            if (fault == Fault::forGood) bench.disk.cutPower();
+            const Files now = bench.files(after);
+            EXPECT_THAT(now.at(field.file), AnyOf(before.at(field.file), after.at(field.file)));
+            EXPECT_EQ(withDate(now, field, date), after) << "no other file changes";
+            if (now == after) return;
+            EXPECT_THAT(bench.desk.told, Contains("Errore"));
+            bench.enter(field.name);
+            bench.leave();
+            EXPECT_EQ(bench.files(after), after);
+        });
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Fields, GuastiDate, ::testing::ValuesIn(dateFields),
+                         [](const auto& field) { return std::string(field.param.name); });
+
 /// A command that only reads: every failure is told and the command can be given again.
 struct Reading {
     const char* name;
@@ -266,7 +356,7 @@ const Reading readings[] = {
      [](Bench& bench) { return bench.screen->Frame24.visible(); }},
     {"AuthorisedHours", "txtNf1Per",
      [](Bench& bench) {
-         EXPECT_TRUE(lay(bench.disk, folder + "Meirin.vbn", limitsBytes({0, 0, 0})));
+         EXPECT_TRUE(lay(bench.disk, bench.path("Meirin.vbn"), limitsBytes({0, 0, 0})));
          bench.callUp("1");
          bench.press("Frame1");
      },
