@@ -12,30 +12,12 @@ using ::testing::IsEmpty;
 const std::string seggi = std::string(216, 'S');
 const std::string rendi = std::string(152, 'R');
 
-struct Stage {
-    MemoryFileSystem disk;
-    FailingFileSystem failing{disk};
-    AgreeingDesk desk;
-    MemoryDatabase staging{stagingTables()};
-    MemoryDatabase places{placeTables()};
-    RecordingPrintEngine printing;
-    OpenedScreens screens;
-    std::unique_ptr<frmCancella> screen;
-
+struct Stage : FaultStage<frmCancella> {
     Stage() {
         for (const auto& [name, bytes] : laid) EXPECT_TRUE(lay(disk, electionFolder + "/" + name, bytes));
-        screen = std::make_unique<frmCancella>(Workplace{failing, desk, staging, printing, screens, places});
-        desk.open(screen->form);
-        Operator clerk(screen->form);
-        EXPECT_EQ(clerk.choose(screen->Combo1, "Europee"), Refusal::none);
-        EXPECT_EQ(clerk.choose(screen->Combo2, "09-06-24"), Refusal::none);
-    }
-    Stage(const Stage&) = delete;
-    Stage& operator=(const Stage&) = delete;
-    ~Stage() { desk.shut(screen->form); }
-    void click(Control& control) { EXPECT_EQ(Operator(screen->form).click(control), Refusal::none) << control.name(); }
-    void tick(Control& control) {
-        EXPECT_EQ(Operator(screen->form).tick(control, true), Refusal::none) << control.name();
+        openScreen();
+        choose("Combo1", "Europee");
+        choose("Combo2", "09-06-24");
     }
     std::string stored(const std::string& name) { return contentOf(disk, electionFolder + "/" + name); }
     void expectWholeOrGone() {
@@ -54,31 +36,25 @@ struct Stage {
                                                                    {"Meirinc.vbn", std::string(40, 'M')}};
 };
 
-enum class Fault { once, stop };
 class CancellaGuasti : public ::testing::TestWithParam<Fault> {
   protected:
-    static void strike(Stage& stage, int n) {
-        GetParam() == Fault::once ? stage.failing.failOnce(n) : stage.failing.stopAt(n);
-    }
     /// Counts the operations of `work` on a fresh stage that `prepare` made ready.
     template <class Prepare, class Work>
     static int operations(Prepare prepare, Work work) {
         Stage stage;
         prepare(stage);
-        stage.failing.failOnce(0);
-        work(stage);
-        return stage.failing.operations();
+        return operationsOf(stage.failing, [&] { work(stage); });
     }
 };
-INSTANTIATE_TEST_SUITE_P(Both, CancellaGuasti, ::testing::Values(Fault::once, Fault::stop));
+INSTANTIATE_TEST_SUITE_P(Both, CancellaGuasti, ::testing::ValuesIn(bothFaults));
 
 TEST_P(CancellaGuasti, TheSearchTellsAndOffersNothing) {
-    const auto searching = [](Stage& stage) { stage.click(stage.screen->cmdRicerca); };
+    const auto searching = [](Stage& stage) { stage.click("cmdRicerca"); };
     const int all = operations([](Stage&) {}, searching);
     ASSERT_GE(all, 16) << "eight files are opened and measured";
     atEveryOperation({"frmCancella.cmdRicerca", "an election"}, all, [&](int n) {
         Stage stage;
-        strike(stage, n);
+        strike(stage.failing, GetParam(), n);
         searching(stage);
         EXPECT_EQ(stage.desk.told, Names{"Errore"});
         EXPECT_FALSE(stage.screen->Check1.enabled());
@@ -93,17 +69,17 @@ TEST_P(CancellaGuasti, TheSearchTellsAndOffersNothing) {
 
 TEST_P(CancellaGuasti, AGroupIsRemovedAsFarAsTheDiskAllows) {
     const auto prepare = [](Stage& stage) {
-        stage.click(stage.screen->cmdRicerca);
-        stage.tick(stage.screen->Check4);
-        stage.tick(stage.screen->Check9);
+        stage.click("cmdRicerca");
+        stage.tick("Check4");
+        stage.tick("Check9");
     };
-    const auto deleting = [](Stage& stage) { stage.click(stage.screen->cmdEsegui); };
+    const auto deleting = [](Stage& stage) { stage.click("cmdEsegui"); };
     const int all = operations(prepare, deleting);
     ASSERT_EQ(all, 9) << "each of five files is looked for, and the four that are there are removed";
     atEveryOperation({"frmCancella.cmdEsegui", "two groups"}, all, [&](int n) {
         Stage stage;
         prepare(stage);
-        strike(stage, n);
+        strike(stage.failing, GetParam(), n);
         deleting(stage);
         EXPECT_EQ(stage.desk.told, Names{"Cancellazione"});
         stage.expectWholeOrGone();
@@ -123,23 +99,23 @@ TEST_P(CancellaGuasti, AGroupIsRemovedAsFarAsTheDiskAllows) {
 
 TEST_P(CancellaGuasti, AnElectionIsRemovedAsFarAsTheDiskAllows) {
     const auto prepare = [](Stage& stage) {
-        stage.click(stage.screen->cmdRicerca);
-        stage.tick(stage.screen->Check1);
+        stage.click("cmdRicerca");
+        stage.tick("Check1");
     };
-    const auto deleting = [](Stage& stage) { stage.click(stage.screen->cmdEsegui); };
+    const auto deleting = [](Stage& stage) { stage.click("cmdEsegui"); };
     const int all = operations(prepare, deleting);
     ASSERT_GE(all, 13) << "two groups, the list, at least six files, the folder";
     atEveryOperation({"frmCancella.cmdEsegui", "an election"}, all, [&](int n) {
         Stage stage;
         prepare(stage);
-        strike(stage, n);
+        strike(stage.failing, GetParam(), n);
         deleting(stage);
         EXPECT_EQ(stage.desk.told, Names{"Cancellazione"});
         stage.expectWholeOrGone();
         stage.failing.failOnce(0);
         deleting(stage);
         EXPECT_THAT(namesIn(stage.disk, "Elezioni/Europee"), IsEmpty());
-        stage.click(stage.screen->cmdAnnulla);
+        stage.click("cmdAnnulla");
         EXPECT_THAT(stage.screen->Combo2.items(), IsEmpty());
     });
 }
