@@ -2,7 +2,7 @@
 # libraries). The fuzzer builds them, and so does the replay of the tests. The reader of layouts needs no toolkit.
 function(vorbano_fuzz_targets add_target)
   set(layout ${CMAKE_SOURCE_DIR}/src/platform/qt)
-  cmake_language(CALL ${add_target} record_fuzz LINKS program)
+  cmake_language(CALL ${add_target} record_fuzz LINKS records SOURCES ${CMAKE_SOURCE_DIR}/src/program/record_files.cpp)
   cmake_language(CALL ${add_target} election_fuzz LINKS program)
   cmake_language(CALL ${add_target} text_fuzz LINKS storage scenario_reader)
   cmake_language(CALL ${add_target} scenario_fuzz LINKS scenario_reader)

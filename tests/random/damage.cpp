@@ -73,6 +73,11 @@ StoredState wholeInstallation(const std::filesystem::path& scenarios) {
     for (const char* table : {"NewPmDip.dat", "OldPmDip.dat"}) {
         state.files.emplace_back("Params/" + std::string(table), contentOf(state, "Params/PmDip.dat"));
     }
+    std::erase_if(state.files, [&](const auto& file) {
+        const std::string& path = file.first;
+        return !path.starts_with("Params/") && !path.starts_with(ours) &&
+               !path.starts_with("Elezioni/Europee/09-06-24/");
+    });
     state.files.emplace_back("Params/PmDipc.dat", std::string(49 * 32, ' '));
     state.files.emplace_back("Params/Comuni.dat", contentOf(state, "Params/Ente.dat"));
     return state;

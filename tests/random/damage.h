@@ -20,7 +20,7 @@ void hurt(FileSystem& files, const std::string& path, Damage damage);
 /// The election of `wholeInstallation`: of two bodies, with five periods.
 inline constexpr std::string_view wholeType = "Provinciali_Comunali";
 inline constexpr std::string_view wholeDate = "06-05-12";
-/// An installation in which every file that an election can have is there.
+/// An installation in which every file that an election can have is there, and one election more.
 [[nodiscard]] StoredState wholeInstallation(const std::filesystem::path& scenarios);
 
 }  // namespace vorbano::test

@@ -57,7 +57,6 @@ void Walk::show(Form& form) {
         search(form);
         useAll(form);
         search(form);
-        useAll(form);
     }
     form.close();
     forms_.pop();
@@ -126,6 +125,8 @@ void Walk::use(Form& form, Control& control) {
             for (const int page : {1, 2, 0}) static_cast<void>(clerk.turn(control, page));
             break;
         case Kind::menuEntry:
+            // The entries of the main window lead to the screens, which are walked through on their own.
+            if (form.name() == "Form1" && control.name().starts_with("mnu")) break;
             static_cast<void>(clerk.menu(control));
             break;
         case Kind::textBox:

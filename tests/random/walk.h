@@ -12,8 +12,8 @@
 
 namespace vorbano::test {
 
-/// A clerk who opens one screen, looks for an election, fills what is empty and uses every command, and all of it once
-/// more; says yes to every question. Windows that a command opens are closed at once.
+/// A clerk who opens one screen, looks for an election, fills what is empty and uses every command, and looks for it
+/// once more; says yes to every question. Windows that a command opens are closed at once.
 class Walk : private Desktop, private PrintEngine {
   public:
     Walk(FileSystem& files, Election election);
