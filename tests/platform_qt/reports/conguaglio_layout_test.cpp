@@ -154,8 +154,9 @@ TEST_F(ConguaglioLayout, TheStatementOfGeneralAndMunicipalElectionsHasTheSharesA
     statement({{"Conguaglio", 805'91}, {"ConguaglioStato", 395'24}, {"Conguaglio1", 273'78}, {"Conguaglio2", 136'89}});
     EXPECT_THAT(
         text("rendrippcong.rpt"),
-        AllOf(HasSubstr("RENDICONTO A CONGUAGLIO"), HasSubstr("805,91"), HasSubstr("395,24"), HasSubstr("273,78"),
-              HasSubstr("136,89"), HasSubstr("due terzi allo Stato"), Not(HasSubstr("RENDICONTO DELLE SPESE")),
+        AllOf(HasSubstr("RENDICONTO A CONGUAGLIO della spesa"), HasSubstr("RENDICONTO A CONGUAGLIO – Politiche"),
+              HasSubstr("805,91"), HasSubstr("395,24"), HasSubstr("273,78"), HasSubstr("136,89"),
+              HasSubstr("due terzi allo Stato"), Not(HasSubstr("RENDICONTO DELLE SPESE")),
               Not(HasSubstr("VOCI DI SPESA")), Not(HasSubstr("Acconti"))));
 }
 
@@ -170,8 +171,9 @@ TEST_F(ConguaglioLayout, TheSameLayoutIsTheStatementOfAReferendumWithMunicipalEl
 TEST_F(ConguaglioLayout, TheStatementOfAnyOtherElectionIsOneLine) {
     heading("Europee");
     statement({{"straordinario", 60'27}});
-    EXPECT_THAT(text("Rendcong.rpt"), AllOf(HasSubstr("RENDICONTO A CONGUAGLIO"), HasSubstr("dello Stato"),
-                                            HasSubstr("TOTALE A CONGUAGLIO"), HasSubstr("€\u00a060,27")));
+    EXPECT_THAT(text("Rendcong.rpt"),
+                AllOf(HasSubstr("RENDICONTO A CONGUAGLIO della spesa"), HasSubstr("RENDICONTO A CONGUAGLIO – Europee"),
+                      HasSubstr("dello Stato"), HasSubstr("TOTALE A CONGUAGLIO"), HasSubstr("€\u00a060,27")));
 }
 
 /// The liquidation of an adjustment leaves its heading behind, perhaps that of another election.
