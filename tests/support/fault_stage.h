@@ -32,7 +32,7 @@ class AgreeingDesk : public ScriptedDesktop {
 
 /// A fresh disk, a desk, and a screen upon them. `ScreenType` is the screen or what several screens have in common.
 template <class ScreenType>
-class FaultStage {
+class FaultStage : public Clerk {
   public:
     MemoryFileSystem disk;
     FailingFileSystem failing{disk};
@@ -46,7 +46,7 @@ class FaultStage {
     FaultStage() = default;
     FaultStage(const FaultStage&) = delete;
     FaultStage& operator=(const FaultStage&) = delete;
-    ~FaultStage() {
+    ~FaultStage() override {
         if (screen) desk.shut(screen->form);
     }
 
@@ -58,34 +58,8 @@ class FaultStage {
         desk.open(screen->form);
     }
 
-    // What the clerk sees.
-    Control& control(std::string_view name) {
-        Control* found = screen->form.find(name);
-        if (found == nullptr) throw std::invalid_argument("no control " + std::string(name));
-        return *found;
-    }
-    bool operable(std::string_view name) { return control(name).isOperable(); }
-
-    // What the clerk does.
-    Operator clerk() { return Operator(screen->form); }
-    void type(std::string_view name, std::string_view words) {
-        EXPECT_EQ(clerk().type(control(name), words), Refusal::none) << name;
-    }
-    void enter(std::string_view name) { EXPECT_EQ(clerk().enter(control(name)), Refusal::none) << name; }
-    void leave() { clerk().leave(); }
-    void click(std::string_view name) { EXPECT_EQ(clerk().click(control(name)), Refusal::none) << name; }
-    void tick(std::string_view name) { EXPECT_EQ(clerk().tick(control(name), true), Refusal::none) << name; }
-    void choose(std::string_view name, std::string_view item) {
-        EXPECT_EQ(clerk().choose(control(name), item), Refusal::none) << name << " " << item;
-    }
-    void chooseIndex(std::string_view name, int index) {
-        EXPECT_EQ(clerk().chooseIndex(control(name), index), Refusal::none) << name;
-    }
-    void pick(std::string_view grid, int row, int column) {
-        EXPECT_EQ(clerk().pick(control(grid), row, column), Refusal::none) << grid << " " << row << " " << column;
-    }
-    void press(std::string_view name) { EXPECT_EQ(clerk().press(control(name)), Refusal::none) << name; }
-    void menu(std::string_view name) { EXPECT_EQ(clerk().menu(control(name)), Refusal::none) << name; }
+  private:
+    Form& front() override { return screen->form; }
 };
 
 /// The disk fails at operation `n` of what `act` does, once, and is well again.
