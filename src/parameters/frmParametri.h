@@ -54,7 +54,10 @@ struct frmParametri {
     Button cmdTarNuove{staffPage, "cmdTarNuove", "Nuove tariffe"};
     CheckBox Check45{staffPage, "Check45", "Aggiorna tariffe"};  ///< an election is to follow the other version
     CheckBox Check46{staffPage, "Check46", "Conguaglio"};        ///< an election is to be adjusted
-    Frame Frame2{staffPage, "Frame2", "Decorrenza"};             ///< on show for the adjustment
+    // How a version begins: as the table on show. Each is there only while its version was never saved.
+    Button cmdSalvaVecchie{staffPage, "cmdSalvaVecchie", "Salva come vecchie tariffe"};
+    Button cmdSalvaNuove{staffPage, "cmdSalvaNuove", "Salva come nuove tariffe"};
+    Frame Frame2{staffPage, "Frame2", "Decorrenza"};  ///< on show for the adjustment
     ComboBox cboDeco{Frame2, "cboDeco", {"01/04/2008", "01/01/2009"}};
     Label lblDeco{Frame2, "lblDeco"};               ///< the date of effect in use
     Frame Frame1{staffPage, "Frame1", "Elezione"};  ///< on show while an election is chosen, or to be
@@ -129,7 +132,8 @@ struct frmParametri {
     void Check26_Click();
     void cmdSalva2_Click();
 
-    /// The screen to NewPmDip.dat, with the mark "/" in all rows; to OldPmDip.dat, with "\". They tell a failure.
+    /// The screen to NewPmDip.dat, with the mark "/" in all rows; to OldPmDip.dat, with "\". They tell a failure; with
+    /// the version saved, the command that begins it goes.
     void salvanuove();
     void salvavecchie();
 
@@ -153,7 +157,8 @@ struct frmParametri {
     void forgetElection();
 
     bool showVersion(std::string_view file, std::string_view mark);
-    bool beginVersion(std::string_view file, std::string_view mark);
+    void offerFirstVersions();
+    void enableVersions(bool enabled);
     bool electionIsNamed();
     bool listDayRates(std::string_view file, std::size_t count);
     void rewriteStored(const RewriteDirection& direction);

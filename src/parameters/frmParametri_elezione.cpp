@@ -37,9 +37,8 @@ void frmParametri::showMode() {
     cmdCrea.visible = adjustment;
     Frame2.visible = adjustment;
     Check20.visible = !adjustment;
-    for (Control* each : std::initializer_list<Control*>{&cmdTarVecchie, &cmdTarNuove, &Check20}) {
-        each->enabled = !electionToChoose;
-    }
+    enableVersions(!electionToChoose);
+    Check20.enabled = !electionToChoose;
     const bool someRowOpen = std::ranges::any_of(rows, [](const RateRow& row) { return row.box.checked(); });
     cmdStampa.enabled = !electionToChoose && !someRowOpen;
 }

@@ -54,6 +54,7 @@ void frmParametri::makeStaffPage() {
 }
 
 void frmParametri::loadStaff() {
+    offerFirstVersions();
     const auto table = onlyRecord<TariffTable>(desk_.files, pmDipFile);
     if (table && !*table) {
         say("Bisogna inserire i dati dei compensi orari dei dipendenti");
@@ -103,7 +104,7 @@ void frmParametri::lockStaff() {
 void frmParametri::Check20_Click() {
     if (!Check20.checked()) {
         lockStaff();
-        for (Button* command : {&cmdTarNuove, &cmdTarVecchie}) command->enabled = plainEditing();
+        enableVersions(plainEditing());
         Combo1.enabled = true;
         txtDataEle.enabled = true;
         return;
@@ -149,9 +150,13 @@ void frmParametri::cmdSalva_Click() {
     if (mark == "\\") salvavecchie();
 }
 
-void frmParametri::salvanuove() { storeStaff(newPmDipFile, "/"); }
+void frmParametri::salvanuove() {
+    if (storeStaff(newPmDipFile, "/")) cmdSalvaNuove.visible = false;
+}
 
-void frmParametri::salvavecchie() { storeStaff(oldPmDipFile, "\\"); }
+void frmParametri::salvavecchie() {
+    if (storeStaff(oldPmDipFile, "\\")) cmdSalvaVecchie.visible = false;
+}
 
 bool frmParametri::storeStaff(std::string_view file, std::string_view mark) {
     const auto table = tableOnScreen(mark);

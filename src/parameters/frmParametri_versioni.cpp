@@ -33,12 +33,23 @@ bool isMissing(const Result<int>& count) {
     return count.error().kind == Failure::missingFolder || count.error().kind == Failure::badName;
 }
 
+/// Only looks: opening would create the file. One that cannot be looked into may hold a version.
+bool wasNeverSaved(FileSystem& files, std::string_view version) {
+    const auto file = files.openExisting(version);
+    if (!file) return file.error().kind == Failure::notFound;
+    const auto length = (*file)->size();
+    return length && recordCount(*length, sizeof(TariffTable)) == 0;
+}
+
 }  // namespace
 
 void frmParametri::makeVersions() {
     using This = frmParametri;
     cmdTarNuove.clicked.calls(this, &This::cmdTarNuove_Click);
     cmdTarVecchie.clicked.calls(this, &This::cmdTarVecchie_Click);
+    cmdSalvaNuove.clicked.calls(this, &This::salvanuove);
+    cmdSalvaVecchie.clicked.calls(this, &This::salvavecchie);
+    for (Button* first : {&cmdSalvaNuove, &cmdSalvaVecchie}) first->visible = false;
     Check45.clicked.calls(this, &This::Check45_Click);
     cmdAggTar.clicked.calls(this, &This::cmdAggTar_Click);
 }
@@ -59,32 +70,28 @@ void frmParametri::cmdTarVecchie_Click() {
     if (electionIsNamed() && listanuove()) aggiorna2();
 }
 
-/// Shows a version with its mark. The new tariffs always take their own mark, the old ones that of their first row.
-/// False when the clerk has been told that it cannot be, or has declined.
+void frmParametri::offerFirstVersions() {
+    cmdSalvaNuove.visible = wasNeverSaved(desk_.files, newPmDipFile);
+    cmdSalvaVecchie.visible = wasNeverSaved(desk_.files, oldPmDipFile);
+}
+
+void frmParametri::enableVersions(bool enabled) {
+    for (Button* command : {&cmdTarVecchie, &cmdTarNuove, &cmdSalvaVecchie, &cmdSalvaNuove}) command->enabled = enabled;
+}
+
+/// Shows a version with its mark. The new tariffs always take their own mark, the old ones that of their first row. A
+/// version that was never saved deliberately leaves the table and the marks on show as they are: the command then goes
+/// on with them, and without an election the table comes into force with the mark of the version last loaded, which is
+/// blank when there was none. False when the disk failed, which the clerk has then been told.
 bool frmParametri::showVersion(std::string_view file, std::string_view mark) {
     const auto table = onlyRecord<TariffTable>(desk_.files, file);
     if (!table) return wellDone(table.error(), desk_.desktop);
-    if (!*table) return !trim(Combo1.text()).empty() || beginVersion(file, mark);
+    if (!*table) return true;
     const std::string stored = mark == newMark ? std::string(mark) : (*table)->mark(0);
     Label31.text = stored;
     Label30.text = stored;
     closeStaff();
     showStaff(**table);
-    return true;
-}
-
-/// A version that was never saved begins as the table on show, if the clerk wishes: its mark makes every save of the
-/// table write it too.
-bool frmParametri::beginVersion(std::string_view file, std::string_view mark) {
-    const std::string name = mark == newMark ? "nuove" : "vecchie";
-    const std::string question = "Le " + name +
-                                 " tariffe non sono ancora state salvate.\n"
-                                 "Volete salvare come " +
-                                 name + " tariffe quelle mostrate?";
-    if (!desk_.desktop.ask({question, "Tariffe", Icon::question})) return false;
-    if (!storeStaff(file, mark)) return false;
-    closeStaff();
-    Label30.text = std::string(mark);
     return true;
 }
 

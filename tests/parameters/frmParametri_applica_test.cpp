@@ -7,10 +7,8 @@ namespace {
 
 class Apply : public VersionsDesk {};
 
-constexpr const char* noNewYet =
-    "Le nuove tariffe non sono ancora state salvate.\nVolete salvare come nuove tariffe quelle mostrate?";
-constexpr const char* noOldYet =
-    "Le vecchie tariffe non sono ancora state salvate.\nVolete salvare come vecchie tariffe quelle mostrate?";
+constexpr const char* noNumber =
+    "Riga D2, colonna Festive: il testo \"abc\" non è un numero. Correggerlo e ripetere l'operazione.";
 
 TEST_F(Apply, TheNewTariffsComeIntoForce) {
     openWithVersions();
@@ -117,57 +115,52 @@ TEST_F(Apply, NoElectionIsTouched) {
     EXPECT_EQ(bytesOf(statementNow()), bytesOf(statement()));
 }
 
-TEST_F(Apply, AVersionNeverSavedBeginsAsTheTableOnShow) {
-    openWithRates("", oldCents);
-    desktop.box("Tariffe", noOldYet, ScriptedDesktop::Answer::yes);
-    click("cmdTarVecchie");
-    EXPECT_EQ(toHex(file("OldPmDip.dat")), toHex(oldVersion));
-    EXPECT_EQ(toHex(file("PmDip.dat")), toHex(oldVersion));
-    EXPECT_EQ(text("Label26"), "\nSONO APPLICATE LE VECCHIE TARIFFE");
-    desktop.box("Tariffe", noNewYet, ScriptedDesktop::Answer::yes);
-    click("cmdTarNuove");
-    EXPECT_EQ(toHex(file("NewPmDip.dat")), toHex(tariffBytes("/", oldCents)));
-    EXPECT_EQ(toHex(file("PmDip.dat")), toHex(tariffBytes("/", oldCents)));
-    EXPECT_EQ(text("Label31"), "/");
-    EXPECT_EQ(toHex(file("OldPmDip.dat")), toHex(oldVersion));
-}
-
-TEST_F(Apply, AVersionNeverSavedStaysSoWhenTheClerkDeclines) {
+TEST_F(Apply, AVersionNeverSavedLeavesTheTableInForceWithoutMark) {
     openWithRates("\\", oldCents);
-    desktop.box("Tariffe", noNewYet, ScriptedDesktop::Answer::no);
     click("cmdTarNuove");
     EXPECT_EQ(text("txtD5Day"), "1,01");
     EXPECT_EQ(text("Label30"), "");
-    EXPECT_EQ(text("Label31"), "\\");
-    EXPECT_EQ(screen->cmdTarNuove.tone(), Tone::plain);
-    EXPECT_EQ(toHex(file("PmDip.dat")), toHex(tariffBytes("\\", oldCents)));
+    EXPECT_EQ(text("Label31"), "");
+    EXPECT_EQ(text("Label26"), "\nSONO APPLICATE LE VECCHIE TARIFFE") << "as it stood";
+    EXPECT_EQ(screen->cmdTarNuove.tone(), Tone::active);
+    EXPECT_EQ(screen->cmdTarVecchie.tone(), Tone::plain);
+    EXPECT_EQ(toHex(file("PmDip.dat")), toHex(tariffBytes("", oldCents)));
     EXPECT_EQ(file("NewPmDip.dat"), "");
+    EXPECT_EQ(file("OldPmDip.dat"), noFile);
 }
 
-TEST_F(Apply, ATextThatIsNoNumberIsNoVersion) {
+TEST_F(Apply, AVersionNeverSavedKeepsTheMarkOfTheVersionLastLoaded) {
+    layVersions();
+    ASSERT_TRUE(lay(files, "Params/OldPmDip.dat", ""));
+    open();
+    click("cmdTarNuove");
+    click("cmdTarVecchie");
+    EXPECT_EQ(text("Label31"), "/");
+    EXPECT_EQ(screen->cmdTarVecchie.tone(), Tone::active);
+    EXPECT_EQ(toHex(file("PmDip.dat")), toHex(newVersion));
+    EXPECT_EQ(file("OldPmDip.dat"), "");
+}
+
+TEST_F(Apply, AVersionNeverSavedLeavesARowOpen) {
     openWithRates("", oldCents);
     tick("Check5");
-    type("txtD2Fn", "abc");
-    desktop.box("Tariffe", noNewYet, ScriptedDesktop::Answer::yes);
-    desktop.box(title,
-                "Riga D2, colonna Festive: il testo \"abc\" non è un numero. Correggerlo e ripetere l'operazione.");
+    type("txtD2Day", "99,99");
     click("cmdTarNuove");
-    EXPECT_EQ(focused(), "txtD2Fn");
-    EXPECT_EQ(file("NewPmDip.dat"), "");
-    EXPECT_EQ(toHex(file("PmDip.dat")), toHex(tariffBytes("", oldCents)));
+    EXPECT_TRUE(ticked("Check5"));
+    EXPECT_EQ(text("txtD2Day"), "99,99");
+    const auto typed = [](int number, int kind) { return number == 5 && kind == 0 ? 9999 : oldCents(number, kind); };
+    EXPECT_EQ(toHex(file("PmDip.dat")), toHex(tariffBytes("", typed)));
 }
 
-TEST_F(Apply, TheFirstVersionEndsTheFirstEntry) {
-    desktop.box(title, noStaffRates);
-    open();
-    type("txtD5Day", "10.27");
-    desktop.box("Tariffe", noNewYet, ScriptedDesktop::Answer::yes);
+TEST_F(Apply, ATextThatIsNoNumberDoesNotComeIntoForce) {
+    openWithRates("\\", oldCents);
+    tick("Check5");
+    type("txtD2Fn", "abc");
+    desktop.box(title, noNumber);
     click("cmdTarNuove");
-    const auto typed = [](int number, int kind) { return number == 1 && kind == 0 ? 1027 : 0; };
-    EXPECT_EQ(toHex(file("PmDip.dat")), toHex(tariffBytes("/", typed)));
-    EXPECT_EQ(toHex(file("NewPmDip.dat")), toHex(tariffBytes("/", typed)));
-    EXPECT_FALSE(ticked("Check20"));
-    EXPECT_FALSE(enabled("cmdSalva"));
+    EXPECT_EQ(focused(), "txtD2Fn");
+    EXPECT_EQ(text("Label31"), "\\");
+    EXPECT_EQ(toHex(file("PmDip.dat")), toHex(tariffBytes("\\", oldCents)));
 }
 
 }  // namespace

@@ -44,7 +44,7 @@ class VersionFaults : public VersionsDesk {
         prepare(changes);
         getReady();
         const int operations = operationsOf(failing, give);
-        EXPECT_GE(operations, 4);
+        EXPECT_GE(operations, 3);
         expectDone(changes);
         for (const Fault fault : bothFaults) {
             atEveryOperation(of, operations, [&](int n) {
@@ -110,30 +110,37 @@ TEST_F(VersionFaults, AnElectionIsRewrittenBack) {
         [&] { chooseElection(); }, [&] { click("cmdTarVecchie"); });
 }
 
-TEST_F(VersionFaults, AVersionBegins) {
-    const std::string table = tariffBytes("/", oldCents);
-    const std::string question =
-        "Le nuove tariffe non sono ancora state salvate.\nVolete salvare come nuove tariffe quelle mostrate?";
-    const std::vector<Change> changes = {{"Params/PmDip.dat", inForce, table}, {"Params/NewPmDip.dat", "", table}};
-    prepare(changes);
-    failing.failOnce(0);
-    desktop.box("Tariffe", question, ScriptedDesktop::Answer::yes);
-    click("cmdTarNuove");
-    const int operations = failing.operations();
-    expectDone(changes);
-    // The question is asked once the file has been looked into; then the version is stored, and then the table.
-    for (const Fault fault : bothFaults) {
-        atEveryOperation({"frmParametri.cmdTarNuove", "a first version"}, operations, [&](int n) {
-            prepare(changes);
-            strike(failing, fault, n);
-            desktop.box("Tariffe", question, ScriptedDesktop::Answer::yes);
-            click("cmdTarNuove");
-            failing.failOnce(0);
-            if (fault == Fault::forGood) files.cutPower();
-            EXPECT_THAT(desktop.finish(), ::testing::Not(::testing::IsEmpty()));
-            expectWhole(changes);
-        });
+TEST_F(VersionFaults, AVersionNeverSavedLeavesTheTableWithoutMark) {
+    underEveryFault(
+        {"frmParametri.cmdTarNuove", "no version yet"},
+        {{"Params/PmDip.dat", inForce, tariffBytes("", oldCents)}, {"Params/NewPmDip.dat", "", ""}}, [] {},
+        [&] { click("cmdTarNuove"); });
+}
+
+TEST_F(VersionFaults, TheNewTariffsBegin) {
+    underEveryFault(
+        {"frmParametri.cmdSalvaNuove", "the table"}, {{"Params/NewPmDip.dat", "", tariffBytes("/", oldCents)}}, [] {},
+        [&] { click("cmdSalvaNuove"); });
+}
+
+TEST_F(VersionFaults, TheOldTariffsBegin) {
+    underEveryFault(
+        {"frmParametri.cmdSalvaVecchie", "the table"}, {{"Params/OldPmDip.dat", "", oldVersion}}, [] {},
+        [&] { click("cmdSalvaVecchie"); });
+}
+
+TEST_F(VersionFaults, AVersionThatCannotBeLookedIntoDoesNotBeginAnew) {
+    layVersions();
+    ASSERT_TRUE(lay(files, "Params/NewPmDip.dat", ""));
+    // The types of elections are listed first; then the new version is opened and measured.
+    for (const int n : {2, 3}) {
+        failing.failOnce(n);
+        openOn(failing, staging, printing);
+        failing.failOnce(0);
+        EXPECT_FALSE(visible("cmdSalvaNuove"));
     }
+    openOn(failing, staging, printing);
+    EXPECT_TRUE(visible("cmdSalvaNuove"));
 }
 
 TEST_F(VersionFaults, TheAnnouncementOfAnUpdateIsNotMadeWhenTheOldTariffsCannotBeRead) {
