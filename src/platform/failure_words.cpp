@@ -55,7 +55,7 @@ std::string folderInItalian(const Error& error) {
         case Failure::diskFull:
             return "La cartella " + folder + " non è stata creata: il disco è pieno.";
         case Failure::refused:
-            return "La cartella " + folder + " non può essere creata o tolta: controllare che non sia di sola lettura.";
+            return "La cartella " + folder + " non può essere creata: controllare che non sia di sola lettura.";
         default:
             return "Il disco non ha completato l'operazione sulla cartella " + folder + ".";
     }

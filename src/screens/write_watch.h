@@ -13,7 +13,8 @@ namespace vorbano {
 
 /// Many procedures of the office go on whatever happens to what they store. That they do, but the clerk hears of it:
 /// this stands between all screens and the disk and the desk, and when a command of the operator has come to its end it
-/// tells in one box which files could not be written, those left out that a message of the command named already.
+/// tells in one box which files could not be written, those left out that a message of the command named already. A
+/// removal that fails stays untold: the deletion says that it is done, whatever stays.
 class WriteWatch {
   public:
     WriteWatch(FileSystem& files, Desktop& desktop);

@@ -57,19 +57,16 @@ Result<> NoticingFileSystem::replace(std::string_view from, std::string_view to)
     return notices_.of(real_.replace(from, to));
 }
 
-Result<> NoticingFileSystem::remove(std::string_view path) { return notices_.of(real_.remove(path)); }
+Result<> NoticingFileSystem::remove(std::string_view path) {
+    auto removed = real_.remove(path);
+    if (removed && notices_.changed) notices_.changed();
+    return removed;
+}
 
 Result<std::vector<Entry>> NoticingFileSystem::list(std::string_view folder) { return real_.list(folder); }
 
 Result<> NoticingFileSystem::makeFolder(std::string_view path) { return notices_.of(real_.makeFolder(path), true); }
 
-Result<> NoticingFileSystem::removeFolder(std::string_view path) {
-    auto done = real_.removeFolder(path);
-    if (done) return done;
-    // A folder with something left in it stays, as it should.
-    const auto content = real_.list(path);
-    if (content && !content->empty()) return done;
-    return notices_.of(std::move(done), true);
-}
+Result<> NoticingFileSystem::removeFolder(std::string_view path) { return real_.removeFolder(path); }
 
 }  // namespace vorbano

@@ -1,6 +1,7 @@
 // The deletion: the question, what goes and what stays, the message that always comes.
 
 #include "cancella_desk.h"
+#include "screens/write_watch.h"
 
 namespace vorbano::test {
 namespace {
@@ -49,6 +50,29 @@ TEST_F(CancellaEsegui, RemovesSeveralGroupsAndLeavesTheFolder) {
     EXPECT_EQ(text("Label2"), "8");
     execute();
     EXPECT_THAT(namesIn(files), UnorderedElementsAreArray(ungrouped));
+}
+
+/// As the program shows it: with the watch that tells of every file that could not be written.
+TEST_F(CancellaEsegui, OnAWriteProtectedDiskTellsOnlyItsOwnWords) {
+    layAll(files);
+    WriteWatch watch(files, desktop);
+    frmCancella shown(Workplace{watch.files(), watch.desktop(), staging, printing, screens, places});
+    Names before;
+    desktop.form("frmCancella", [&](Form& form) {
+        Operator clerk(form);
+        EXPECT_EQ(clerk.choose(shown.Combo1, "Europee"), Refusal::none);
+        EXPECT_EQ(clerk.choose(shown.Combo2, "09-06-24"), Refusal::none);
+        EXPECT_EQ(clerk.click(shown.cmdRicerca), Refusal::none);
+        before = namesIn(files);
+        files.makeReadOnly("");
+        EXPECT_EQ(clerk.tick(shown.Check1, true), Refusal::none);
+        EXPECT_EQ(clerk.click(shown.cmdEsegui), Refusal::none);
+    });
+    box(questionTitle, question, Answer::yes);
+    box("Cancellazione", "Eseguita con successo!");
+    watch.desktop().show(shown.form);
+    EXPECT_THAT(before, ::testing::SizeIs(23));
+    EXPECT_EQ(namesIn(files), before);
 }
 
 TEST_F(CancellaEsegui, OfTheStatementTakesItsTwoSharesWithIt) {

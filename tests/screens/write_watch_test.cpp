@@ -80,13 +80,12 @@ TEST_F(Watched, SeveralFilesStandInOneBox) {
     disk.makeReadOnly("");
     cmdSalva.clicked.calls([this] {
         store("Elezioni/Seggi.vbn");
-        files.remove("Elezioni/Meirin.vbn").ignore();
+        store("Elezioni/Meirin.vbn");
         files.makeFolder("Params").ignore();
     });
     boxes = {{"Errore", std::string("Il file Elezioni/Seggi.vbn") + readOnly + "\nIl file Elezioni/Meirin.vbn" +
                             readOnly +
-                            "\nLa cartella Params non può essere creata o tolta: controllare che non sia di sola "
-                            "lettura."}};
+                            "\nLa cartella Params non può essere creata: controllare che non sia di sola lettura."}};
     giveCommand();
     EXPECT_EQ(contentOf(disk, "Elezioni/Meirin.vbn"), "old");
 }
@@ -95,7 +94,7 @@ TEST_F(Watched, MoreThanFiveFilesAreCounted) {
     for (const char* name : {"1", "2", "3", "4", "5", "6", "7"}) ASSERT_TRUE(lay(disk, name, "old"));
     disk.makeReadOnly("");
     cmdSalva.clicked.calls([this] {
-        for (const char* name : {"1", "2", "3", "4", "5", "6", "7"}) files.remove(name).ignore();
+        for (const char* name : {"1", "2", "3", "4", "5", "6", "7"}) store(name);
     });
     std::string words;
     for (const char* name : {"1", "2", "3", "4", "5"}) words += std::string("Il file ") + name + readOnly + "\n";
@@ -141,7 +140,7 @@ TEST_F(Watched, AFolderIsNotToldByTheNameOfAFileInIt) {
         EXPECT_FALSE(wellDone(writeIn("Europee/Seggi.vbn"), watch.desktop()));
     });
     boxes = {{"Errore", "Manca la cartella del file Europee/Seggi.vbn."},
-             {"Errore", "La cartella Europee non può essere creata o tolta: controllare che non sia di sola lettura."}};
+             {"Errore", "La cartella Europee non può essere creata: controllare che non sia di sola lettura."}};
     giveCommand();
 }
 
@@ -151,6 +150,17 @@ TEST_F(Watched, WhatIsOnlyNotThereIsNoFailure) {
         files.remove("Elezioni/Rendi.vbn").ignore();
     });
     giveCommand();
+}
+
+TEST_F(Watched, WhatCouldNotBeRemovedIsNotTold) {
+    ASSERT_TRUE(disk.makeFolder("Europee").ok());
+    disk.makeReadOnly("");
+    cmdSalva.clicked.calls([this] {
+        files.remove("Elezioni/Meirin.vbn").ignore();
+        files.removeFolder("Europee").ignore();
+    });
+    giveCommand();
+    EXPECT_EQ(contentOf(disk, "Elezioni/Meirin.vbn"), "old");
 }
 
 TEST_F(Watched, WhatFailsWhileTheWindowOpensOrClosesIsToldToo) {
