@@ -80,10 +80,21 @@ function(vorbano_form)
   endforeach()
 endfunction()
 
-# vorbano_test(NAME [TOOLKIT] [BATCHES] [SOURCES ...] [LINKS ...]): one test program for one folder of tests/. With BATCHES
-# its sources are compiled eight at a time, a third of the work; a name in an unnamed namespace is then used once a folder.
+# What ./test runs under sanitizers, and the target that builds it: the tests with the label "short". They reach all of
+# the program; every test runs under sanitizers with the whole preset.
+add_custom_target(short)
+function(vorbano_short target)
+  add_dependencies(short ${target})
+  if(ARGN)
+    set_property(TEST ${ARGN} APPEND PROPERTY LABELS short)
+  endif()
+endfunction()
+
+# vorbano_test(NAME [TOOLKIT] [BATCHES] [SHORT] [SOURCES ...] [LINKS ...]): one test program for one folder of tests/. With
+# BATCHES its sources are compiled eight at a time, a third of the work; a name in an unnamed namespace is then used once a
+# folder. With SHORT it is part of the short run.
 function(vorbano_test name)
-  cmake_parse_arguments(ARG "TOOLKIT;BATCHES" "" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "TOOLKIT;BATCHES;SHORT" "" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE ${ARG_LINKS} vorbano_flags GTest::gmock_main)
   target_compile_options(${name} PRIVATE -O0)
@@ -96,6 +107,11 @@ function(vorbano_test name)
   else()
     target_precompile_headers(${name} REUSE_FROM vorbano_test_headers)
   endif()
-  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES FIXTURES_SETUP unit ENVIRONMENT
+  set(label whole)
+  if(ARG_SHORT)
+    vorbano_short(${name})
+    set(label short)
+  endif()
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES LABELS ${label} FIXTURES_SETUP unit ENVIRONMENT
     "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=/nonexistent;VORBANET_ROOT=/nonexistent;VORBANO_FAULTS=${CMAKE_BINARY_DIR}/faults")
 endfunction()
