@@ -10,6 +10,7 @@ namespace vorbano::test {
 /// What the program has that a clerk or a file can meet, listed from the program itself and its sources.
 struct SurfaceList {
     std::set<std::string> screens;
+    std::set<std::string> captions;  ///< of the screens, as their title bars say
     std::set<std::string> controls;  ///< "frmX.cmdY": has an event procedure and can be gestured at
     std::set<std::string> layouts;   ///< file names of the delivered layouts
     std::set<std::string> files;     ///< names of the record files
@@ -17,6 +18,9 @@ struct SurfaceList {
 };
 
 [[nodiscard]] SurfaceList listSurfaces(const std::filesystem::path& sources);
+
+/// What messages say and no scenario can meet, in the pieces they are written in.
+[[nodiscard]] std::vector<std::string> messagesOfNoScenario();
 
 /// The string literals of a C++ source that read as a message: adjacent ones joined, escapes undone, at least two
 /// words.
