@@ -140,14 +140,10 @@ std::vector<std::string> wordsOfBoxes(const std::string& source) {
     return words;
 }
 
-PageLinks linksIn(const std::string& page) {
-    PageLinks links;
-    for (std::size_t at = page.find("]("); at != std::string::npos; at = page.find("](", at + 1)) {
-        const std::string target = page.substr(at + 2, page.find(')', at) - at - 2);
-        const std::size_t opening = page.rfind('[', at);
-        links.all.push_back(target);
-        if (opening != std::string::npos && opening > 0 && page[opening - 1] == '!') links.pictures.insert(target);
-    }
+std::vector<std::string> linksIn(const std::string& page) {
+    std::vector<std::string> links;
+    for (std::size_t at = page.find("]("); at != std::string::npos; at = page.find("](", at + 1))
+        links.push_back(page.substr(at + 2, page.find(')', at) - at - 2));
     return links;
 }
 

@@ -34,12 +34,8 @@ struct ManualMessage {
 /// `Message{...}`.
 [[nodiscard]] std::vector<std::string> wordsOfBoxes(const std::string& source);
 
-/// The targets of links and pictures of a page, pictures among them once more by themselves.
-struct PageLinks {
-    std::vector<std::string> all;
-    std::set<std::string> pictures;
-};
-[[nodiscard]] PageLinks linksIn(const std::string& page);
+/// The targets of the links and pictures of a page.
+[[nodiscard]] std::vector<std::string> linksIn(const std::string& page);
 
 /// The names by which links reach the headings of a page.
 [[nodiscard]] std::set<std::string> anchorsIn(const std::string& page);

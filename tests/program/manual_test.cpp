@@ -159,9 +159,9 @@ TEST(TheManual, HasNoDeadLinkAndNoForgottenPicture) {
     std::vector<std::string> dead;
     std::set<std::string> used;
     for (const auto& [name, page] : pages) {
-        const PageLinks links = linksIn(page);
-        used.insert(links.all.begin(), links.all.end());
-        for (const std::string& link : links.all) {
+        const std::vector<std::string> links = linksIn(page);
+        used.insert(links.begin(), links.end());
+        for (const std::string& link : links) {
             const std::size_t hash = std::min(link.find('#'), link.size());
             const std::string file = hash == 0 ? name : link.substr(0, hash);
             const bool anchored = hash == link.size() ||
