@@ -12,6 +12,7 @@
 #include "platform/qt/report_engine.h"
 #include "scenario/player.h"
 #include "scenario/pointer.h"
+#include "scenario/window_faults.h"
 #include "scenario/window_hands.h"
 
 namespace vorbano {
@@ -142,11 +143,23 @@ class Steps : public QObject {
             actAtPreview(*preview);
         } else if (modal != nullptr && qobject_cast<FormWindow*>(modal) == nullptr) {
             player_.failAt("the window " + inQuotes(modal->windowTitle().toStdString()));
+        } else if (const std::string fault = faultInFront(); !fault.empty()) {
+            player_.failAt(fault);
         } else {
             acting_.push_back(desktop_.front());
             player_.step();
             acting_.pop_back();
         }
+    }
+
+    /// Whatever is entered, a window stays whole, legible and at hand.
+    [[nodiscard]] std::string faultInFront() const {
+        FormWindow* window = desktop_.windowOf(*desktop_.front());
+        if (window == nullptr || !window->isVisible()) return {};
+        window->settle();
+        QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        const std::vector<std::string> faults = windowFaults(*window);
+        return faults.empty() ? std::string() : "the window " + window->form().name() + ", where " + faults.front();
     }
 
     void actAtBox(QMessageBox& box) {

@@ -34,6 +34,7 @@ class WindowDesktop : public Desktop {
         window.show();
         QCoreApplication::processEvents();
         EXPECT_THAT(window.missingWidgets(), testing::IsEmpty()) << form.name();
+        EXPECT_THAT(window.namelessWidgets(), testing::IsEmpty()) << form.name();
         // The smallest screen of an office is enough: as it opens, no window needs to be scrolled. What is left to it
         // below its menu and inside its frame is a little less than the screen.
         const auto* area = window.findChild<QScrollArea*>();

@@ -97,7 +97,11 @@ Spot FormWindow::spotOf(const Control& control, int line, int column) {
 }
 
 QSize FormWindow::sizeHint() const {
-    QSize wanted = content_->sizeHint().expandedTo(content_->minimumSizeHint());
+    // What wraps would rather not; no window opens wider for that than the desk of a small office.
+    constexpr int widest = 1350;
+    QSize wanted = content_->sizeHint();
+    wanted.setWidth(std::min(wanted.width(), widest));
+    wanted = wanted.expandedTo(content_->minimumSizeHint());
     if (content_->hasHeightForWidth()) {
         wanted.setHeight(std::max(wanted.height(), content_->heightForWidth(wanted.width())));
     }
@@ -204,7 +208,10 @@ void FormWindow::followFocus(bool select) {
         const bool moves = focusWidget() != target || (isActiveWindow() && !target->hasFocus());
         // As with Tab, so that the ring of the focus is drawn on every kind of widget.
         if (moves) target->setFocus(Qt::TabFocusReason);
-        scroll_->ensureWidgetVisible(target);
+        // A panel may scroll on its own, inside the window that does.
+        for (QWidget* around = target->parentWidget(); around != nullptr; around = around->parentWidget()) {
+            if (auto* area = qobject_cast<QScrollArea*>(around)) area->ensureWidgetVisible(target);
+        }
         if (auto* line = qobject_cast<QLineEdit*>(widget); line != nullptr && (select || moves)) line->selectAll();
     }
     following_ = false;

@@ -10,7 +10,8 @@
 //   Menu entries and timers need nothing. A HiddenLabel has no widget. Captions that never change are QLabels of any
 //   name without a control.
 // * The form's captions are shown. On buttons, boxes, options and panels the .ui's own words stay as long as the form
-//   gives none, and where they only add a mnemonic ("&Salva" for "Salva"). A Label always shows the form's text.
+//   gives none, and where they only add or move a mnemonic ("&Salva" for "Salva"). A Label always shows the form's
+//   text.
 // * Every field has a label that is its buddy, with a mnemonic where there is room for one; a label that belongs to no
 //   control hides and shows with its buddy. In tables of fields, where a label each would be noise, set accessibleName.
 // * The order of Tab is the order in which the controls are declared in the form, not that of the .ui.
@@ -119,6 +120,7 @@ class FormWindow : public QDialog, public FormWatcher {
     void bringAll();
     void bringTimer(const Control& control);
     void bringCaptions(const Control& control);
+    void giveName(const Control& control);
     void act(Control& control, const Gesture& gesture);
     void leave(Control& control, bool forward);
     void closeByOperator();
@@ -131,6 +133,7 @@ class FormWindow : public QDialog, public FormWatcher {
     void pointerCame(QPoint at);
     bool keyPressed(Control& control, const QKeyEvent& event);
     bool shortcut(Control& control, QObject* widget, QEvent& event);
+    static void focusWent(QObject* watched, const QFocusEvent& event);
     void focusCame(Control& control, const QFocusEvent& event);
     void answerFocus();
 

@@ -94,16 +94,22 @@ void FormWindow::bindCaptions() {
     }
 }
 
+/// Of several captions the first one that says something.
+void FormWindow::giveName(const Control& control) {
+    QString name;
+    for (const Caption& caption : captions_) {
+        if (caption.named == &control && name.isEmpty()) name = withoutMnemonic(caption.label->text());
+    }
+    QWidget* named = widgetOf(control);
+    if (named->accessibleName() != name) named->setAccessibleName(name);
+}
+
 void FormWindow::bringCaptions(const Control& control) {
     for (const Caption& caption : captions_) {
         const bool isIt = caption.named == &control || widgetOf(control) == caption.label;
         const bool around = control.kind() == Kind::frame || control.kind() == Kind::tabPanel;
         if (!isIt && !around) continue;
-        if (caption.givesName) {
-            const QString name = withoutMnemonic(caption.label->text());
-            QWidget* named = widgetOf(*caption.named);
-            if (named->accessibleName() != name) named->setAccessibleName(name);
-        }
+        if (caption.givesName) giveName(*caption.named);
         if (caption.ofForm) continue;
         caption.label->setVisible(isMeantToShow(*caption.named));
         caption.label->setEnabled(caption.named->isEnabled());

@@ -2,8 +2,10 @@
 
 #include <QApplication>
 #include <QFocusEvent>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QScrollArea>
 #include <QShortcutEvent>
@@ -11,6 +13,7 @@
 #include <utility>
 
 #include "platform/qt/form_window.h"
+#include "platform/qt/whole_text.h"
 
 namespace vorbano {
 
@@ -57,6 +60,11 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
             return keyPressed(*control, *static_cast<QKeyEvent*>(event));
         case QEvent::Shortcut:
             return shortcut(*control, watched, *event);
+        case QEvent::ToolTip:
+            return showHiddenText(*static_cast<QWidget*>(watched), static_cast<QHelpEvent*>(event)->pos());
+        case QEvent::FocusOut:
+            focusWent(watched, *static_cast<QFocusEvent*>(event));
+            return false;
         case QEvent::FocusIn:
             focusCame(*control, *static_cast<QFocusEvent*>(event));
             return false;
@@ -173,6 +181,14 @@ bool FormWindow::shortcut(Control& control, QObject* widget, QEvent& event) {
         act(control, [&](Operator& clerk) { return clerk.enter(control); });
     }
     return true;
+}
+
+/// What is longer than its field is left with its beginning in view.
+void FormWindow::focusWent(QObject* watched, const QFocusEvent& event) {
+    auto* line = qobject_cast<QLineEdit*>(watched);
+    const bool comesBack = event.reason() == Qt::ActiveWindowFocusReason || event.reason() == Qt::PopupFocusReason ||
+                           event.reason() == Qt::MenuBarFocusReason;
+    if (line != nullptr && !comesBack) line->setCursorPosition(0);
 }
 
 void FormWindow::focusCame(Control& control, const QFocusEvent& event) {

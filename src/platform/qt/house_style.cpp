@@ -12,7 +12,15 @@ namespace {
 /// The style sheet draws the ring of the focus but for the combo box, whose arrow it cannot draw without a picture.
 class HouseStyle : public QProxyStyle {
   public:
-    HouseStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+    explicit HouseStyle(bool compact)
+        : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))), compact_(compact) {}
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+        const bool air =
+            metric == PM_LayoutTopMargin || metric == PM_LayoutBottomMargin || metric == PM_LayoutVerticalSpacing;
+        return compact_ && air ? usual / 2 : usual;
+    }
 
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override {
@@ -25,10 +33,13 @@ class HouseStyle : public QProxyStyle {
         painter->drawRoundedRect(QRectF(option->rect).adjusted(1, 1, -1, -1), 3, 3);
         painter->restore();
     }
+
+  private:
+    bool compact_;
 };
 
 }  // namespace
 
-QStyle* makeHouseStyle() { return new HouseStyle; }
+QStyle* makeHouseStyle(bool compact) { return new HouseStyle(compact); }
 
 }  // namespace vorbano

@@ -7,6 +7,7 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPalette>
+#include <QScreen>
 #include <QTranslator>
 #include <algorithm>
 #include <array>
@@ -32,18 +33,18 @@ struct Colour {
 // A paper-like ground, ink with a contrast above 7 : 1 and, for what waits its turn, above 4.5 : 1.
 constexpr std::array<Colour, 14> colours{{
     {QPalette::Window, "#f3f4f2", "#f3f4f2"},
-    {QPalette::WindowText, "#1c2733", "#626c76"},
+    {QPalette::WindowText, "#1c2733", "#5c6670"},
     {QPalette::Base, "#ffffff", "#eceeec"},
     {QPalette::AlternateBase, "#f5f7f9", "#eceeec"},
     {QPalette::Text, "#1c2733", "#5a646e"},
     {QPalette::PlaceholderText, "#1c2733", "#5a646e"},
     {QPalette::Button, "#e9ebee", "#eceeec"},
-    {QPalette::ButtonText, "#1c2733", "#626c76"},
-    {QPalette::Highlight, "#2b5d8c", "#aab6c2"},
+    {QPalette::ButtonText, "#1c2733", "#5c6670"},
+    {QPalette::Highlight, "#2b5d8c", "#66727e"},
     {QPalette::HighlightedText, "#ffffff", "#ffffff"},
     {QPalette::ToolTipBase, "#fffdf2", "#fffdf2"},
     {QPalette::ToolTipText, "#1c2733", "#1c2733"},
-    {QPalette::Link, "#1f4f7d", "#626c76"},
+    {QPalette::Link, "#1f4f7d", "#5c6670"},
     {QPalette::Mid, "#b4bcc4", "#c9cfd4"},
 }};
 
@@ -66,19 +67,30 @@ void speakItalian() {
     if (installed.load(QStringLiteral("qtbase_it"), folder)) QCoreApplication::installTranslator(&installed);
 }
 
+/// A screen of 1920 x 1080 at 150 % has 720 logical pixels for a window and all around it.
+bool isLowDesk(const QScreen& screen) {
+    constexpr int low = 760;
+    return screen.geometry().height() < low;
+}
+
+QString sheet(const char* name) {
+    QFile file(QStringLiteral(":/windows/%1.qss").arg(QLatin1String(name)));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
 }  // namespace
 
 void applyStyle(QApplication& application) {
     openResources();
     speakItalian();
-    QApplication::setStyle(makeHouseStyle());
+    const bool compact = isLowDesk(*QGuiApplication::primaryScreen());
+    QApplication::setStyle(makeHouseStyle(compact));
     QApplication::setPalette(palette());
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/windows/vorbano.png")));
     QFont font = QApplication::font();
     font.setPointSizeF(std::max(pointSize, font.pointSizeF()));
     QApplication::setFont(font);
-    QFile sheet(QStringLiteral(":/windows/style.qss"));
-    if (sheet.open(QIODevice::ReadOnly)) application.setStyleSheet(QString::fromUtf8(sheet.readAll()));
+    application.setStyleSheet(sheet("style") + (compact ? sheet("compact") : QString()));
 }
 
 }  // namespace vorbano

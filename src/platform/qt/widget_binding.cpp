@@ -20,13 +20,14 @@ namespace {
 constexpr int anyLength = 32767;
 
 /// The caption that a widget shows for the form's one. The window's own words stay as long as the program has given
-/// none, and where they only add a mnemonic.
+/// none, and where they differ in the mnemonic alone: the window knows which letters its other captions have taken.
 QString caption(QWidget& widget, const QString& present, const std::string& wanted) {
     constexpr const char* given = "captionGiven";
     const QString text = shown(wanted);
     if (text == present || (text.isEmpty() && !widget.property(given).toBool())) return present;
     widget.setProperty(given, true);
-    const bool onlyMnemonic = !text.contains('&') && withoutMnemonic(present) == withoutMnemonic(text);
+    const bool onlyMnemonic =
+        (present.contains('&') || !text.contains('&')) && withoutMnemonic(present) == withoutMnemonic(text);
     return onlyMnemonic ? present : text;
 }
 
@@ -47,7 +48,10 @@ void bringTextBox(const Control& control, QWidget& widget) {
     // The limit is for what is typed; the program may have assigned more, and that is shown whole.
     const int most = box.maxLength == 0 ? anyLength : std::max(box.maxLength, static_cast<int>(text.size()));
     if (line.maxLength() != most) line.setMaxLength(most);  // even an equal one would take the marking away
-    if (line.text() != text) line.setText(text);
+    if (line.text() != text) {
+        line.setText(text);
+        if (!line.hasFocus()) line.setCursorPosition(0);
+    }
     if (box.markedFrom() >= 0) {
         const auto before =
             static_cast<int>(shown(box.text().substr(0, static_cast<std::size_t>(box.markedFrom()))).size());

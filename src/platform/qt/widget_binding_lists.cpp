@@ -167,6 +167,7 @@ void hangGrid(Control& control, QWidget& widget, const Act& act) {
     table.setSelectionMode(QAbstractItemView::SingleSelection);
     table.setTabKeyNavigation(false);
     table.setAlternatingRowColors(true);
+    table.setWordWrap(false);
     table.verticalHeader()->hide();
     table.verticalHeader()->setDefaultSectionSize(table.fontMetrics().height() + 10);
     table.horizontalHeader()->setHighlightSections(false);
@@ -198,10 +199,6 @@ void shareRoom(QTableWidget& table) {
         return;
     }
     header->setSectionResizeMode(column, QHeaderView::Stretch);
-    for (int row = 0; row < table.rowCount(); ++row) {
-        QTableWidgetItem* item = table.item(row, column);
-        item->setToolTip(item->text());
-    }
 }
 
 void bringGridCells(const Control& control, QWidget& widget) {
