@@ -1,7 +1,6 @@
 #include "platform/database.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cmath>
 
 namespace vorbano {
@@ -34,13 +33,25 @@ struct Shown {
 }  // namespace
 
 bool sameTableName(std::string_view a, std::string_view b) {
+    const auto small = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](unsigned char x, unsigned char y) { return std::tolower(x) == std::tolower(y); });
+                      [&](char x, char y) { return x == y || small(x) == small(y); });
 }
 
+namespace {
+
+/// Rows are short, but a document has as many searches as cells; most names already differ in length.
+template <class Cells>
+auto cellNamed(Cells& cells, std::string_view field) {
+    return std::find_if(cells.begin(), cells.end(), [field](const auto& cell) {
+        return cell.first.size() == field.size() && sameTableName(cell.first, field);
+    });
+}
+
+}  // namespace
+
 Row& Row::set(std::string_view field, Value value) {
-    const auto at = std::find_if(fields_.begin(), fields_.end(),
-                                 [&](const auto& cell) { return sameTableName(cell.first, field); });
+    const auto at = cellNamed(fields_, field);
     if (at != fields_.end()) {
         at->second = std::move(value);
     } else {
@@ -50,8 +61,7 @@ Row& Row::set(std::string_view field, Value value) {
 }
 
 const Value* Row::find(std::string_view field) const {
-    const auto at = std::find_if(fields_.begin(), fields_.end(),
-                                 [&](const auto& cell) { return sameTableName(cell.first, field); });
+    const auto at = cellNamed(fields_, field);
     return at == fields_.end() ? nullptr : &at->second;
 }
 

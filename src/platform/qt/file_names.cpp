@@ -1,19 +1,23 @@
 #include "platform/qt/file_names.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
 
 namespace vorbano {
 
 namespace {
 
-/// The entry of `folder` that has this name without regard to case; the name itself when there is none.
+/// The entry of `folder` that has this name without regard to case, of several the first in the order of their letters;
+/// the name itself when there is none.
 QString entry(const QString& folder, const QString& name) {
-    const QStringList all = QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System);
-    for (const QString& one : all) {
-        if (one.compare(name, Qt::CaseInsensitive) == 0) return one;
+    QString found;
+    for (QDirIterator all(folder, QDir::AllEntries | QDir::Hidden | QDir::System); all.hasNext();) {
+        all.next();
+        const QString one = all.fileName();
+        if (one.compare(name, Qt::CaseInsensitive) == 0 && (found.isEmpty() || one < found)) found = one;
     }
-    return name;
+    return found.isEmpty() ? name : found;
 }
 
 }  // namespace

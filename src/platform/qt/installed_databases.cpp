@@ -58,12 +58,17 @@ bool fillPlaces(const QSqlDatabase& database, const QString& table, const QStrin
     QSqlQuery query(database);
     const QString columns = "%1_DESCR TEXT, %1_PROV TEXT, %1_COD TEXT, ATTIVO INTEGER";
     if (!query.exec("CREATE TABLE " + table + " (" + columns.arg(prefix) + ")")) return false;
-    if (!query.prepare("INSERT INTO " + table + " VALUES (?, ?, ?, ?)")) return false;
+    // By name: given by number, the toolkit makes the name of each value anew.
+    const QString name = ":name";
+    const QString province = ":province";
+    const QString code = ":code";
+    const QString inForce = ":inForce";
+    if (!query.prepare("INSERT INTO " + table + " VALUES (:name, :province, :code, :inForce)")) return false;
     for (const Place& place : places) {
-        query.bindValue(0, place.name);
-        query.bindValue(1, place.province);
-        query.bindValue(2, place.code);
-        query.bindValue(3, place.inForce ? 1 : 0);
+        query.bindValue(name, place.name);
+        query.bindValue(province, place.province);
+        query.bindValue(code, place.code);
+        query.bindValue(inForce, place.inForce ? 1 : 0);
         if (!query.exec()) return false;
     }
     QSqlQuery indexing(database);

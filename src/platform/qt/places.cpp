@@ -1,6 +1,7 @@
 #include "platform/qt/places.h"
 
-#include <QStringList>
+#include <QList>
+#include <QStringView>
 
 namespace vorbano {
 
@@ -11,14 +12,15 @@ constexpr qsizetype nameWidth = 60;
 
 Result<std::vector<Place>> readPlaces(const QByteArray& text, const QString& fileName) {
     std::vector<Place> places;
-    const QStringList lines = QString::fromUtf8(text).split('\n');
+    const QString content = QString::fromUtf8(text);
+    const QList<QStringView> lines = QStringView(content).split(u'\n');
     for (qsizetype at = 1; at < lines.size(); ++at) {
         if (lines[at].isEmpty() && at == lines.size() - 1) break;
-        const QStringList fields = lines[at].split('\t');
-        if (fields.size() != fieldsInLine || (fields[3] != "0" && fields[3] != "1")) {
+        const QList<QStringView> fields = lines[at].split(u'\t');
+        if (fields.size() != fieldsInLine || (fields[3] != u"0" && fields[3] != u"1")) {
             return Error{Failure::damaged, QStringLiteral("%1:%2").arg(fileName).arg(at + 1).toStdString()};
         }
-        places.push_back({fields[0], fields[1], fields[2], fields[3] == "1"});
+        places.push_back({fields[0].toString(), fields[1].toString(), fields[2].toString(), fields[3] == u"1"});
     }
     return places;
 }

@@ -31,7 +31,10 @@ QRectF contentRect(const QPageLayout& layout) {
 }  // namespace
 
 ReportDocument::ReportDocument(Setup setup, std::vector<Item> items, std::shared_ptr<const void> keptAlive)
-    : setup_(std::move(setup)), keptAlive_(std::move(keptAlive)), items_(std::move(items)) {
+    : setup_(std::move(setup)),
+      footFont_(setup_.family, footTextSize, false),
+      keptAlive_(std::move(keptAlive)),
+      items_(std::move(items)) {
     collectBoxes();
     ranges_ = breakIntoPages(boxes_, headings_, contentSize(setup_.layout).height());
 }
@@ -89,18 +92,17 @@ void ReportDocument::paintBoxes(const PageRange& range, QPainter& painter) const
 
 void ReportDocument::paintFoot(int page, QPainter& painter) const {
     const QRectF content = contentRect(setup_.layout);
-    const TextMeasure font(setup_.family, footTextSize, false);
     const std::string number = QStringLiteral("Pagina %1 di %2").arg(page + 1).arg(pages()).toStdString();
-    const double rule = content.bottom() - font.lineHeight() - 4;
-    const double baseline = rule + 4 + font.ascent();
+    const double rule = content.bottom() - footFont_.lineHeight() - 4;
+    const double baseline = rule + 4 + footFont_.ascent();
     painter.save();
     painter.setPen(QPen(QColor(0x80, 0x84, 0x88), 0.5));
     painter.drawLine(QPointF(content.left(), rule), QPointF(content.right(), rule));
     painter.setPen(QColor(0x30, 0x34, 0x38));
     painter.scale(1 / TextMeasure::fineness, 1 / TextMeasure::fineness);
-    font.use(painter);
-    font.draw(painter, content.left(), baseline, setup_.foot);
-    font.draw(painter, content.right() - font.width(number), baseline, number);
+    footFont_.use(painter);
+    footFont_.draw(painter, content.left(), baseline, setup_.foot);
+    footFont_.draw(painter, content.right() - footFont_.width(number), baseline, number);
     painter.restore();
 }
 

@@ -10,6 +10,7 @@
 #include "platform/print_engine.h"
 #include "platform/qt/document_piece.h"
 #include "platform/qt/job_watch.h"
+#include "platform/qt/text_measure.h"
 
 class QPagedPaintDevice;
 class QPainter;
@@ -60,6 +61,7 @@ class ReportDocument : public Document {
     void paintBoxes(const PageRange& range, QPainter& painter) const;
 
     Setup setup_;
+    TextMeasure footFont_;
     std::shared_ptr<const void> keptAlive_;
     std::vector<Item> items_;
     std::vector<FlowBox> boxes_;

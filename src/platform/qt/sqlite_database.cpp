@@ -107,8 +107,12 @@ struct SqliteDatabase::Table {
     std::vector<QString> columns;
     std::vector<std::string> columnNames;
     std::vector<ColumnType> types;
-    /// Prepared at the first append.
+    /// Prepared at the first append, and the names of its values: given by number, the toolkit makes each name anew.
     std::optional<QSqlQuery> insertion;
+    std::vector<QString> valueNames;
+    /// Column of each field of the row appended last. Rows of a document are alike, and the next one mostly has its
+    /// fields in the same order.
+    std::vector<std::size_t> lastColumns;
 
     /// The row that the query stands on; its columns are the table's.
     [[nodiscard]] Row rowOf(const QSqlQuery& query) const {
@@ -118,6 +122,27 @@ struct SqliteDatabase::Table {
             if (!value.isNull()) row.set(columnNames[at], fromVariant(value, types[at]));
         }
         return row;
+    }
+
+    /// Column of the field that stands at `place` in a row, -1 when there is none.
+    [[nodiscard]] int columnOf(std::size_t place, std::string_view field) {
+        if (place < lastColumns.size() && sameTableName(columnNames[lastColumns[place]], field)) {
+            return static_cast<int>(lastColumns[place]);
+        }
+        const int at = find(field);
+        lastColumns.resize(std::min(lastColumns.size(), place));
+        if (at >= 0 && lastColumns.size() == place) lastColumns.push_back(static_cast<std::size_t>(at));
+        return at;
+    }
+
+    void prepareInsertion(const QSqlDatabase& database) {
+        QStringList names;
+        for (std::size_t at = 0; at < columns.size(); ++at) {
+            names << QStringLiteral(":c%1").arg(at);
+            valueNames.push_back(names.back());
+        }
+        insertion.emplace(database);
+        insertion->prepare("INSERT INTO " + quoted(name) + " VALUES (" + names.join(',') + ")");
     }
 
     [[nodiscard]] int find(std::string_view column) const {
@@ -254,20 +279,16 @@ Result<> SqliteDatabase::append(std::string_view name, const Row& row) {
     if (!found) return found.error();
     Table& into = **found;
     std::vector<QVariant> values(into.columns.size());
-    for (const auto& [field, value] : row.fields()) {
-        const int at = into.find(field);
+    for (std::size_t place = 0; place < row.fields().size(); ++place) {
+        const auto& [field, value] = row.fields()[place];
+        const int at = into.columnOf(place, field);
         if (at < 0) return Error{Failure::notFound, std::string(name) + "." + field};
         const auto kept = asColumnKeeps(value, into.types[static_cast<std::size_t>(at)]);
         if (!kept) return Error{Failure::refused, std::string(name) + "." + field};
         values[static_cast<std::size_t>(at)] = std::visit(ToVariant{}, *kept);
     }
-    if (!into.insertion) {
-        QStringList places;
-        for (std::size_t at = 0; at < into.columns.size(); ++at) places << "?";
-        into.insertion.emplace(QSqlDatabase::database(connectionName_, false));
-        into.insertion->prepare("INSERT INTO " + quoted(into.name) + " VALUES (" + places.join(',') + ")");
-    }
-    for (std::size_t at = 0; at < values.size(); ++at) into.insertion->bindValue(static_cast<int>(at), values[at]);
+    if (!into.insertion) into.prepareInsertion(QSqlDatabase::database(connectionName_, false));
+    for (std::size_t at = 0; at < values.size(); ++at) into.insertion->bindValue(into.valueNames[at], values[at]);
     return into.insertion->exec() ? Result<>() : fail(*into.insertion);
 }
 

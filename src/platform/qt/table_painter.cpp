@@ -23,9 +23,10 @@ void TablePiece::line(QPainter& painter, double x1, double y1, double x2, double
     painter.drawLine(QPointF(fine(x1), fine(y1)), QPointF(fine(x2), fine(y2)));
 }
 
-void TablePiece::paintLine(QPainter& painter, const Place& place, std::string_view text, double baseline,
-                           const TextMeasure& font) const {
+void TablePiece::paintLine(QPainter& painter, TextRun& run, const Place& place, std::string_view text,
+                           double baseline) const {
     if (text.empty()) return;
+    const TextMeasure& font = run.font();
     const double left = place.x + padding_;
     const double room = place.width - 2 * padding_;
     const double width = font.width(text);
@@ -45,22 +46,23 @@ void TablePiece::paintLine(QPainter& painter, const Place& place, std::string_vi
         const auto comma = std::min(text.find(','), text.size());
         x = std::max(left, left + room - place.behindComma - font.width(text.substr(0, comma)));
     }
-    font.draw(painter, x, baseline, text);
+    run.add(x, baseline, text);
 }
 
-void TablePiece::paintCell(QPainter& painter, const ColumnBox& column, std::string_view text, double top,
-                           const TextMeasure& font) const {
+void TablePiece::paintCell(QPainter& painter, TextRun& run, const ColumnBox& column, std::string_view text,
+                           double top) const {
+    const TextMeasure& font = run.font();
     double baseline = top + padding_ * 0.9 + font.ascent();
     const int count = linesOf(column, text, font);
     if (count == 1) {
-        paintLine(painter, column.place, text, baseline, font);
+        paintLine(painter, run, column.place, text, baseline);
         return;
     }
     auto lines = breakIntoLines(text, column.place.width - 2 * padding_,
                                 [&font](std::string_view part) { return font.width(part); });
     lines.resize(static_cast<std::size_t>(count));
     for (const std::string& one : lines) {
-        paintLine(painter, column.place, one, baseline, font);
+        paintLine(painter, run, column.place, one, baseline);
         baseline += font.lineHeight();
     }
 }
@@ -73,11 +75,12 @@ void TablePiece::paintTexts(QPainter& painter, const TableBox& box, double top) 
     const double above =
         row ? (boxHeight(box) - rowHeight(lines_[static_cast<std::size_t>(box.row)], font_)) / 2 : padding_ / 2;
     std::string text;
+    TextRun run(painter, font);
     for (const ColumnBox& column : columns_) {
         if (row) column.cell.fill(text, box.row);
         if (box.kind == TableBox::Kind::blockTotal) column.blockTotal.fill(text, blockOf(box).last);
         if (box.kind == TableBox::Kind::totals) text = column.total;
-        paintCell(painter, column, text, top + above, font);
+        paintCell(painter, run, column, text, top + above);
     }
 }
 
@@ -131,13 +134,14 @@ void TablePiece::paintRules(QPainter& painter, int first, int end) const {
 }
 
 void TablePiece::paintGroups(QPainter& painter, double top) const {
+    TextRun run(painter, headFont_);
     for (const GroupBox& group : groups_) {
         const Place& place = group.place;
         if (place.x < 0) continue;
         const double room = groupHeight_ - headFont_.lineHeight() * static_cast<double>(group.title.size());
         double baseline = top + room / 2 + headFont_.ascent();
         for (const std::string& one : group.title) {
-            paintLine(painter, place, one, baseline, headFont_);
+            paintLine(painter, run, place, one, baseline);
             baseline += headFont_.lineHeight();
         }
         painter.setPen(QPen(strongRule, fine(0.4)));
@@ -157,6 +161,7 @@ void TablePiece::paintTitles(QPainter& painter, double top) const {
     painter.setPen(ink);
     headFont_.use(painter);
     paintGroups(painter, top);
+    TextRun run(painter, headFont_);
     for (const ColumnBox& column : columns_) {
         Place place = column.place;
         if (place.alignment == Alignment::comma) place.alignment = Alignment::right;
@@ -164,7 +169,7 @@ void TablePiece::paintTitles(QPainter& painter, double top) const {
         double baseline =
             bottom - padding_ - headFont_.lineHeight() * static_cast<double>(column.title.size()) + headFont_.ascent();
         for (const std::string& one : column.title) {
-            paintLine(painter, place, one, baseline, headFont_);
+            paintLine(painter, run, place, one, baseline);
             baseline += headFont_.lineHeight();
         }
     }

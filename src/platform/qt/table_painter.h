@@ -75,10 +75,8 @@ class TablePiece : public DocumentPiece {
     void paintHeadingOf(QPainter& painter, const Block& block, double top) const;
     void paintTitles(QPainter& painter, double top) const;
     void paintGroups(QPainter& painter, double top) const;
-    void paintCell(QPainter& painter, const ColumnBox& column, std::string_view text, double top,
-                   const TextMeasure& font) const;
-    void paintLine(QPainter& painter, const Place& place, std::string_view text, double baseline,
-                   const TextMeasure& font) const;
+    void paintCell(QPainter& painter, TextRun& run, const ColumnBox& column, std::string_view text, double top) const;
+    void paintLine(QPainter& painter, TextRun& run, const Place& place, std::string_view text, double baseline) const;
     void paintGround(QPainter& painter, int first, int end) const;
     void paintRules(QPainter& painter, int first, int end) const;
     void paintTexts(QPainter& painter, const TableBox& box, double top) const;

@@ -1,3 +1,5 @@
+#include <QProcess>
+
 #include "file_content.h"
 #include "platform/qt/text_measure.h"
 #include "report_desk.h"
@@ -199,6 +201,28 @@ TEST_F(DocumentTest, IsSavedForTheArchiveWithItsTitle) {
     EXPECT_THAT(pdf, HasSubstr("/OutputIntents"));
     EXPECT_THAT(pdf, HasSubstr("/FontFile2")) << "fonts travel with the act";
     EXPECT_THAT(pdf, HasSubstr("Prova"));
+}
+
+TEST_F(DocumentTest, APdfHoldsEveryLetterOfTheCellsAsText) {
+    append("Tabella3", Row().setText("Nome", "NICOLÒ D’ANGELO – però «sì»").set("Dovuto", Amount{12345600}));
+    // Letters that no Italian text has, among others that every one has.
+    append("Tabella3", Row().setText("Nome", "Łukasz ŐRY àéîõü 50 €").set("Dovuto", Amount{-50000}));
+    append("Tabella3", Row().setText("Nome", std::string("senza\xC2\xAD") + "sillaba"));
+    const auto document = good(employees +
+                               "[table d]\ntext = 12\ncolumn 90 left | Nome | {{Nome}}\n"
+                               "column 40 right | Dovuto | {{Dovuto}}\ncolumn 6 right | Stretta | {{Dovuto}}\n");
+    const std::string path = (folder_.path() / "lettere.pdf").string();
+    ASSERT_THAT(document->savePdf(path), Succeeds());
+    QProcess reader;
+    reader.start("pdftotext", {"-layout", QString::fromStdString(path), "-"});
+    ASSERT_TRUE(reader.waitForFinished());
+    const std::string text = reader.readAllStandardOutput().toStdString();
+    EXPECT_THAT(text, HasSubstr("NICOLÒ D’ANGELO – però «sì»"));
+    EXPECT_THAT(text, HasSubstr("Łukasz ŐRY àéîõü 50 €"));
+    EXPECT_THAT(text, HasSubstr("sillaba"));
+    EXPECT_THAT(text, HasSubstr("1.234,56"));
+    EXPECT_THAT(text, HasSubstr("-5,00"));
+    EXPECT_THAT(text, HasSubstr("Pagina 1 di 1"));
 }
 
 TEST_F(DocumentTest, IsNotSavedWhereItCannotBeWritten) {

@@ -1,0 +1,37 @@
+#include "start/start.h"
+
+#include <QApplication>
+
+#include "platform/qt/qt_desktop.h"
+#include "platform/qt/qt_printer.h"
+#include "platform/qt/report_engine.h"
+#include "platform/qt/report_renderer.h"
+#include "platform/qt/sqlite_database.h"
+#include "platform/qt/style.h"
+#include "program/layouts.h"
+#include "program/program.h"
+#include "storage/disk_file_system.h"
+
+namespace vorbano {
+
+int runOnDesk(int argc, char** argv, const std::function<void()>& begun) {
+    QApplication application(argc, argv);
+    applyStyle(application);
+    if (begun) begun();
+
+    const auto root = installationRoot();
+    DiskFileSystem files(root);
+    SqliteDatabase staging((root / "Stampe" / "dbStampa.mdb").string());
+    SqliteDatabase places((root / "Stampe" / "Comuni.mdb").string());
+    QtDesktop desktop;
+    const auto above = [&desktop] { return desktop.frontWindow(); };
+    QtRenderer renderer(staging, layoutsOf(files));
+    QtPrinter printer(above);
+    QtPrintEngine printing(renderer, printer, above);
+
+    Program program(files, desktop, staging, places, printing);
+    program.run();
+    return 0;
+}
+
+}  // namespace vorbano
