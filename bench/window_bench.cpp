@@ -5,14 +5,12 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QEvent>
 #include <QKeyEvent>
 #include <QTemporaryDir>
-#include <QTimer>
-#include <functional>
 #include <memory>
 #include <string_view>
 
+#include "first_paint.h"
 #include "fiscalcode/frmCodFisc.h"
 #include "overtime/frmCompStraord.h"
 #include "parameters/frmParametri.h"
@@ -32,6 +30,7 @@
 namespace {
 
 using namespace vorbano;
+using bench::FirstPaint;
 
 /// An installation that is ready for work, so that no box comes up.
 struct Office {
@@ -54,27 +53,6 @@ struct Office {
 struct NoScreens : Screens {
     [[nodiscard]] bool has(std::string_view) const override { return false; }
     void open(std::string_view) override {}
-};
-
-/// Calls `whenPainted` once, after the first window on show has been painted.
-class FirstPaint : public QObject {
-  public:
-    explicit FirstPaint(std::function<void()> whenPainted) : whenPainted_(std::move(whenPainted)) {
-        qApp->installEventFilter(this);
-    }
-
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        const auto* widget = qobject_cast<QWidget*>(watched);
-        if (event->type() == QEvent::Paint && widget != nullptr && widget->isWindow()) {
-            qApp->removeEventFilter(this);
-            QTimer::singleShot(0, qApp, whenPainted_);
-        }
-        return false;
-    }
-
-  private:
-    std::function<void()> whenPainted_;
 };
 
 void closeFront(QtDesktop& desktop) {
