@@ -5,6 +5,8 @@
 #include <QStyleFactory>
 #include <QStyleOption>
 
+#include "platform/qt/window_icons.h"
+
 namespace vorbano {
 
 namespace {
@@ -20,6 +22,13 @@ class HouseStyle : public QProxyStyle {
         const bool air =
             metric == PM_LayoutTopMargin || metric == PM_LayoutBottomMargin || metric == PM_LayoutVerticalSpacing;
         return compact_ && air ? usual / 2 : usual;
+    }
+
+    /// Every menu bar asks at once for the arrow behind entries that find no room. The toolkit has it in a file, and
+    /// would load all that it knows of kinds of pictures to read it.
+    QIcon standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const override {
+        if (which == SP_ToolBarHorizontalExtensionButton) return drawnIcon(QStringLiteral("more"));
+        return QProxyStyle::standardIcon(which, option, widget);
     }
 
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QFile>
 #include <QFont>
-#include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPalette>
@@ -14,6 +13,7 @@
 
 #include "platform/qt/house_style.h"
 #include "platform/qt/italian_texts.h"
+#include "platform/qt/window_icons.h"
 
 // Resources of a library are linked in only when they are asked for, and only outside every namespace.
 static void openResources() { Q_INIT_RESOURCE(window_resources); }
@@ -86,7 +86,7 @@ void applyStyle(QApplication& application) {
     const bool compact = isLowDesk(*QGuiApplication::primaryScreen());
     QApplication::setStyle(makeHouseStyle(compact));
     QApplication::setPalette(palette());
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/windows/vorbano.png")));
+    QApplication::setWindowIcon(programIcon());
     QFont font = QApplication::font();
     font.setPointSizeF(std::max(pointSize, font.pointSizeF()));
     QApplication::setFont(font);

@@ -79,6 +79,16 @@ QPainterPath cancel() {
     return path;
 }
 
+QPainterPath more() {
+    QPainterPath path;
+    for (const qreal left : {4.0, 8.5}) {
+        path.moveTo(left, 4);
+        path.lineTo(left + 4, 8);
+        path.lineTo(left, 12);
+    }
+    return path;
+}
+
 QPainterPath calculate() {
     QPainterPath path;
     path.addRoundedRect(QRectF(3.5, 2, 9, 12), 1, 1);
@@ -123,12 +133,43 @@ class DrawnIcon : public QIconEngine {
     QPainterPath path_;
 };
 
+/// A picture that is not read before somebody asks for it: many desktops have a picture of the program of their own.
+class LateIcon : public QIconEngine {
+  public:
+    explicit LateIcon(QString path) : path_(std::move(path)) {}
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
+        icon().paint(painter, rect, Qt::AlignCenter, mode, state);
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        return icon().pixmap(size, mode, state);
+    }
+    QSize actualSize(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        return icon().actualSize(size, mode, state);
+    }
+    QList<QSize> availableSizes(QIcon::Mode mode, QIcon::State state) override {
+        return icon().availableSizes(mode, state);
+    }
+    [[nodiscard]] QIconEngine* clone() const override { return new LateIcon(path_); }
+
+  private:
+    const QIcon& icon() {
+        if (icon_.isNull()) icon_ = QIcon(path_);
+        return icon_;
+    }
+
+    QString path_;
+    QIcon icon_;
+};
+
 }  // namespace
+
+QIcon programIcon() { return QIcon(new LateIcon(QStringLiteral(":/windows/vorbano.png"))); }
 
 QIcon drawnIcon(const QString& name) {
     static const std::map<QString, QPainterPath (*)()> pictures{
-        {"save", save},   {"search", search},   {"print", print},   {"add", add},
-        {"close", close}, {"confirm", confirm}, {"cancel", cancel}, {"calculate", calculate},
+        {"save", save},       {"search", search}, {"print", print},         {"add", add},   {"close", close},
+        {"confirm", confirm}, {"cancel", cancel}, {"calculate", calculate}, {"more", more},
     };
     const auto at = pictures.find(name);
     return at == pictures.end() ? QIcon() : QIcon(new DrawnIcon(at->second()));
