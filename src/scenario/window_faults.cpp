@@ -4,7 +4,6 @@
 #include <QGroupBox>
 #include <QKeySequence>
 #include <QLabel>
-#include <QLayout>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
@@ -37,9 +36,9 @@ QSize roomOn(const QScreen& screen) {
 void addTooLarge(const FormWindow& window, const QWidget& content, Faults& faults) {
     const QSize room = roomOn(*window.screen());
     QSize least = content.minimumSizeHint();
-    const QLayout* layout = content.layout();
-    if (layout != nullptr && layout->hasHeightForWidth()) {
-        least.setHeight(std::max(least.height(), layout->minimumHeightForWidth(std::max(least.width(), room.width()))));
+    // What wraps is as high as it would like to be at that width: the area that scrolls asks no less.
+    if (content.hasHeightForWidth()) {
+        least.setHeight(std::max(least.height(), content.heightForWidth(std::max(least.width(), room.width()))));
     }
     if (const auto* bar = window.findChild<QMenuBar*>()) least.rheight() += bar->sizeHint().height();
     if (least.width() <= room.width() && least.height() <= room.height()) return;
