@@ -87,6 +87,25 @@ TEST_F(PreviewTest, CountsThePagesAsTheyAreTurned) {
     EXPECT_EQ(window.findChild<QLabel*>("lblPagina")->text(), "Pagina 1 di 2");
 }
 
+TEST_F(PreviewTest, OpensAtTheWidthOfThePageAndStaysSoWhenTheWindowGrows) {
+    PreviewWindow window(*document_, printer_, "");
+    window.show();
+    QApplication::processEvents();
+    const auto* pages = window.findChild<PageView*>();
+    const auto paperAcross = [pages] {
+        const QImage image = const_cast<PageView*>(pages)->viewport()->grab().toImage();
+        int across = 0;
+        for (int x = 0; x < image.width(); ++x) across += image.pixelColor(x, 30) == Qt::white ? 1 : 0;
+        return image.width() - across;
+    };
+    // What is left of the desk on both sides of the paper.
+    EXPECT_NEAR(paperAcross(), 32, 2);
+    EXPECT_EQ(pages->horizontalScrollBar()->maximum(), 0);
+    window.resize(window.width() - 200, window.height());
+    QApplication::processEvents();
+    EXPECT_NEAR(paperAcross(), 32, 2);
+}
+
 TEST_F(PreviewTest, GrowsAndShrinksThePages) {
     PreviewWindow window(*document_, printer_, "");
     window.show();
