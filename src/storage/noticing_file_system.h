@@ -18,8 +18,8 @@ struct Unwritten {
 /// Forwards to another file system and tells of every file and folder that could not be written, made or replaced
 /// because the disk is full, write-protected or broken, whatever the caller makes of the result. What is only not there
 /// is no such failure, and neither is one of reading. Of what could not be removed nothing is told, deliberately: a
-/// deletion passes over what stays, and reports no partial result. Tells as well of each file that was written, replaced
-/// or removed, when asked to.
+/// deletion passes over what stays, and reports no partial result. Tells as well of each file that was written,
+/// replaced or removed, when asked to.
 class NoticingFileSystem : public FileSystem {
   public:
     using Notice = std::function<void(const Unwritten&)>;

@@ -70,6 +70,7 @@ void FormWindow::layOut() {
     content_->setObjectName(QStringLiteral("content"));
     if (QLayout* designed = layout()) content_->setLayout(designed);
     scroll_->setWidget(content_);
+    content_->installEventFilter(this);
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(scroll_);
@@ -113,6 +114,25 @@ QSize FormWindow::sizeHint() const {
 }
 
 QSize FormWindow::minimumSizeHint() const { return {320, 160}; }
+
+/// What has come to need more room takes it from the desk as far as there is some, and scrolls only then.
+void FormWindow::grow() {
+    if (!isVisible() || isMaximized() || isFullScreen()) return;
+    QSize least = content_->minimumSizeHint();
+    if (content_->hasHeightForWidth()) {
+        const int width = std::max(least.width(), scroll_->width());
+        least.setHeight(std::max(least.height(), content_->heightForWidth(width)));
+    }
+    const QSize lacking = (least - scroll_->size()).expandedTo({0, 0});
+    if (lacking.isNull()) return;
+    constexpr QSize frame(16, 40);  // what the window manager adds around it
+    const QRect desk = screen()->availableGeometry();
+    QRect grown(geometry());
+    grown.setSize((size() + lacking).boundedTo(desk.size() - frame).expandedTo(size()));
+    grown.moveLeft(std::max(desk.left(), std::min(grown.left(), desk.right() - grown.width())));
+    grown.moveTop(std::max(desk.top() + frame.height() - 8, std::min(grown.top(), desk.bottom() - grown.height())));
+    if (grown.size() != size()) setGeometry(grown);
+}
 
 // From the form to the window
 

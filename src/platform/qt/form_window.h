@@ -109,6 +109,7 @@ class FormWindow : public QDialog, public FormWatcher {
   private:
     void build();
     void layOut();
+    void grow();
     void bind();
     void bind(Control& control, QWidget& widget);
     void bindCaptions();

@@ -45,6 +45,11 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == content_) {
+        const bool needsChanged = event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show;
+        if (needsChanged) QMetaObject::invokeMethod(this, &FormWindow::grow, Qt::QueuedConnection);
+        return false;
+    }
     Control* control = ownerOf(watched);
     if (control == nullptr || !form_.isOpen()) return false;
     switch (event->type()) {
