@@ -9,6 +9,8 @@ target_compile_options(vorbano_flags INTERFACE
 # in its own headers. These four are left to the static analyser and the sanitizers.
 target_compile_options(vorbano_flags INTERFACE
   -Wno-restrict -Wno-stringop-overflow -Wno-maybe-uninitialized -Wno-array-bounds)
+# The toolkit wants it of all that include its headers, and what shares precompiled headers is compiled alike.
+target_compile_options(vorbano_flags INTERFACE -fPIC)
 # Lets the compiler cache look through precompiled headers.
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
   target_compile_options(vorbano_flags INTERFACE -fpch-preprocess)
@@ -20,7 +22,7 @@ if(VORBANO_SANITIZE)
 endif()
 
 # The headers of the standard library are compiled once for all libraries, and those of the test framework once for all
-# test programs: reading them took half the time of a build. What knows the toolkit has other flags and a copy of its own.
+# test programs: reading them took half the time of a build. The toolkit's own are worth it only where it is at home.
 set(standardHeaders <algorithm> <array> <cstdint> <deque> <functional> <map> <memory> <optional> <span> <string> <string_view>
                     <utility> <variant> <vector>)
 set(testHeaders ${standardHeaders} <gmock/gmock.h> <gtest/gtest.h>)
@@ -47,7 +49,8 @@ function(vorbano_lint name)
   set_target_properties(lint_${name} PROPERTIES AUTOMOC OFF UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
 endfunction()
 
-# vorbano_library(NAME [TOOLKIT] [SOURCES ...] [LINKS ...]): one folder of src/. Headers are included as "folder/header.h";
+# vorbano_library(NAME [TOOLKIT] [SOURCES ...] [LINKS ...]): one folder of src/; TOOLKIT for the one that is made of it.
+# Headers are included as "folder/header.h";
 # each folder publishes only itself, through a folder of links made for it in the build tree.
 function(vorbano_library name)
   cmake_parse_arguments(ARG "TOOLKIT" "" "SOURCES;LINKS" ${ARGN})
@@ -90,28 +93,25 @@ function(vorbano_short target)
   endif()
 endfunction()
 
-# vorbano_test(NAME [TOOLKIT] [BATCHES] [SHORT] [SOURCES ...] [LINKS ...]): one test program for one folder of tests/. With
+# vorbano_test(NAME [BATCHES] [SHORT] [SOURCES ...] [LINKS ...]): one test program for one folder of tests/. With
 # BATCHES its sources are compiled eight at a time, a third of the work; a name in an unnamed namespace is then used once a
 # folder. With SHORT it is part of the short run.
 function(vorbano_test name)
-  cmake_parse_arguments(ARG "TOOLKIT;BATCHES;SHORT" "" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "BATCHES;SHORT" "" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE ${ARG_LINKS} vorbano_flags GTest::gmock_main)
   target_compile_options(${name} PRIVATE -O0)
   if(ARG_BATCHES)
     set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
-    target_compile_options(${name} PRIVATE -Wno-shadow $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
+    target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
   endif()
-  if(ARG_TOOLKIT)
-    target_precompile_headers(${name} PRIVATE ${testHeaders} ${toolkitHeaders})
-  else()
-    target_precompile_headers(${name} REUSE_FROM vorbano_test_headers)
-  endif()
+  target_precompile_headers(${name} REUSE_FROM vorbano_test_headers)
   set(label whole)
   if(ARG_SHORT)
     vorbano_short(${name})
     set(label short)
   endif()
-  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES LABELS ${label} FIXTURES_SETUP unit ENVIRONMENT
-    "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;HOME=/nonexistent;VORBANET_ROOT=/nonexistent;VORBANO_FAULTS=${CMAKE_BINARY_DIR}/faults")
+  # Two properties of one value each: a list would be taken apart on its way to the tests.
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES LABELS ${label} FIXTURES_SETUP unit
+    ENVIRONMENT QT_QPA_PLATFORM=offscreen ENVIRONMENT_MODIFICATION VORBANO_FAULTS=set:${CMAKE_BINARY_DIR}/faults)
 endfunction()

@@ -6,7 +6,7 @@ namespace vorbano::test {
 namespace {
 
 constexpr std::array<const char*, 4> fields = {"txtContrPrev", "txtIrapEnte", "txtContrDip", "txtFonCre"};
-constexpr std::array<const char*, 4> boxes = {"Check22", "Check23", "Check24", "Check25"};
+constexpr std::array<const char*, 4> percentageBoxes = {"Check22", "Check23", "Check24", "Check25"};
 
 class ContributionsTab : public ParametriTest {
   protected:
@@ -30,7 +30,7 @@ class ContributionsTab : public ParametriTest {
     void expectAll(bool on) {
         for (std::size_t at = 0; at < 4; ++at) {
             EXPECT_EQ(enabled(fields[at]), on) << fields[at];
-            EXPECT_EQ(ticked(boxes[at]), on) << boxes[at];
+            EXPECT_EQ(ticked(percentageBoxes[at]), on) << percentageBoxes[at];
         }
     }
 };
@@ -77,10 +77,10 @@ TEST_F(ContributionsTab, TheBoxesCarryTheirCaptions) {
 TEST_F(ContributionsTab, ABoxOpensOnlyItsOwnField) {
     openTabWithPercentages();
     for (std::size_t at = 0; at < 4; ++at) {
-        tick(boxes[at]);
+        tick(percentageBoxes[at]);
         for (std::size_t other = 0; other < 4; ++other) EXPECT_EQ(enabled(fields[other]), other == at);
         EXPECT_TRUE(enabled("cmdSalva2"));
-        tick(boxes[at], false);
+        tick(percentageBoxes[at], false);
         expectAll(false);
         EXPECT_FALSE(enabled("cmdSalva2"));
     }

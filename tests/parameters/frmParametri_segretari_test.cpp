@@ -6,7 +6,7 @@ namespace vorbano::test {
 namespace {
 
 constexpr std::array<const char*, 5> stems = {"txtSc8qf", "txtSc9qf2a", "txtSc9qf5a", "txtSc9qf10a", "txtSc9qf15a"};
-constexpr std::array<const char*, 5> boxes = {"Check15", "Check16", "Check17", "Check18", "Check19"};
+constexpr std::array<const char*, 5> secretaryBoxes = {"Check15", "Check16", "Check17", "Check18", "Check19"};
 
 class SecretariesTab : public ParametriTest {
   protected:
@@ -26,7 +26,7 @@ class SecretariesTab : public ParametriTest {
     }
     void expectRow(std::size_t row, bool on) {
         for (const char* kind : {"Day", "Fn", "Nf"}) EXPECT_EQ(enabled(std::string(stems[row]) + kind), on) << kind;
-        EXPECT_EQ(ticked(boxes[row]), on) << boxes[row];
+        EXPECT_EQ(ticked(secretaryBoxes[row]), on) << secretaryBoxes[row];
     }
 };
 
@@ -91,12 +91,12 @@ TEST_F(SecretariesTab, TheBoxesCarryTheirCaptions) {
 TEST_F(SecretariesTab, ABoxOpensItsRowAndClosesItAgain) {
     openTabWithRates();
     for (std::size_t row = 0; row < 5; ++row) {
-        tick(boxes[row]);
+        tick(secretaryBoxes[row]);
         expectRow(row, true);
         EXPECT_EQ(focused(), std::string(stems[row]) + "Day");
         EXPECT_TRUE(enabled("cmdSalva1"));
         EXPECT_FALSE(enabled("cmdStampa1"));
-        tick(boxes[row], false);
+        tick(secretaryBoxes[row], false);
         expectRow(row, false);
         EXPECT_FALSE(enabled("cmdSalva1"));
         EXPECT_TRUE(enabled("cmdStampa1"));

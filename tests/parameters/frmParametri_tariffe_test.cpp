@@ -10,7 +10,7 @@ struct BoxOfKey {
     std::string_view box;
 };
 /// In record order.
-constexpr std::array<BoxOfKey, 32> boxes = {{
+constexpr std::array<BoxOfKey, 32> staffBoxes = {{
     {"D5", "Check1"},   {"D4", "Check2"},  {"D3a", "Check3"},  {"D3b", "Check4"},  {"D2", "Check5"},
     {"D1", "Check6"},   {"C4", "Check7"},  {"C3", "Check8"},   {"C2", "Check9"},   {"C1", "Check10"},
     {"B6", "Check11"},  {"B5", "Check12"}, {"B4a", "Check13"}, {"B3a", "Check14"}, {"B4b", "Check27"},
@@ -31,7 +31,7 @@ class StaffTab : public ParametriTest {
         }
     }
     void expectLocked() {
-        for (const BoxOfKey& one : boxes) {
+        for (const BoxOfKey& one : staffBoxes) {
             expectFields(one.key, false);
             EXPECT_FALSE(ticked(one.box)) << one.box;
         }
@@ -47,7 +47,7 @@ TEST_F(StaffTab, WithoutRatesAsksForThemAndOpensEveryRow) {
     EXPECT_FALSE(enabled("cmdStampa"));
     EXPECT_TRUE(ticked("Check20"));
     EXPECT_EQ(focused(), "txtD5Day");
-    for (const BoxOfKey& one : boxes) expectFields(one.key, !isG(one.key));
+    for (const BoxOfKey& one : staffBoxes) expectFields(one.key, !isG(one.key));
 }
 
 TEST_F(StaffTab, WithRatesShowsThemLocked) {
@@ -55,7 +55,7 @@ TEST_F(StaffTab, WithRatesShowsThemLocked) {
     expectLocked();
     EXPECT_FALSE(ticked("Check20"));
     for (int number = 1; number <= 32; ++number) {
-        const std::string key(boxes[static_cast<std::size_t>(number) - 1].key);
+        const std::string key(staffBoxes[static_cast<std::size_t>(number) - 1].key);
         EXPECT_EQ(text("txt" + key + "Day"), std::to_string(number) + ",01");
         EXPECT_EQ(text("txt" + key + "Fn"), std::to_string(number) + ",02");
         EXPECT_EQ(text("txt" + key + "Nf"), std::to_string(number) + ",03");
@@ -71,7 +71,7 @@ TEST_F(StaffTab, RatesAreShownThroughThePicture) {
 
 TEST_F(StaffTab, EachBoxCarriesTheLabelOfItsRow) {
     openWithRates("");
-    for (std::size_t row = 0; row < 32; ++row) EXPECT_EQ(text(boxes[row].box), expectedRows[row].grade);
+    for (std::size_t row = 0; row < 32; ++row) EXPECT_EQ(text(staffBoxes[row].box), expectedRows[row].grade);
 }
 
 TEST_F(StaffTab, TheCommandsCarryTheirCaptions) {
@@ -84,7 +84,7 @@ TEST_F(StaffTab, TheCommandsCarryTheirCaptions) {
 
 TEST_F(StaffTab, ABoxOpensItsRowAndClosesItAgain) {
     openWithRates("");
-    for (const BoxOfKey& one : boxes) {
+    for (const BoxOfKey& one : staffBoxes) {
         if (isG(one.key)) continue;
         SCOPED_TRACE(one.box);
         tick(one.box);
@@ -99,7 +99,7 @@ TEST_F(StaffTab, ABoxOpensItsRowAndClosesItAgain) {
 
 TEST_F(StaffTab, TheBoxOfAGradeWithAGDoesNothing) {
     openWithRates("");
-    for (const BoxOfKey& one : boxes) {
+    for (const BoxOfKey& one : staffBoxes) {
         if (!isG(one.key)) continue;
         SCOPED_TRACE(one.box);
         tick(one.box);
@@ -134,7 +134,7 @@ TEST_F(StaffTab, ActivatingAllOpensTheTwentySevenRowsThatCanBeChanged) {
     openWithRates("");
     tick("Check20");
     int open = 0;
-    for (const BoxOfKey& one : boxes) {
+    for (const BoxOfKey& one : staffBoxes) {
         SCOPED_TRACE(one.box);
         EXPECT_EQ(ticked(one.box), !isG(one.key));
         expectFields(one.key, !isG(one.key));
@@ -156,7 +156,7 @@ TEST_F(StaffTab, ClearingAllClosesEveryRowAlsoTheBoxesWithAG) {
 TEST_F(StaffTab, ATypedPointShowsAsACommaBeforeAnyConversion) {
     openWithRates("");
     tick("Check20");
-    for (const BoxOfKey& one : boxes) {
+    for (const BoxOfKey& one : staffBoxes) {
         if (isG(one.key)) continue;
         for (const char* kind : {"Day", "Fn", "Nf"}) {
             const std::string name = "txt" + std::string(one.key) + kind;
@@ -229,13 +229,13 @@ TEST_F(StaffTab, TheRowsWithAGKeepTheirRatesThroughAnyNumberOfSaves) {
     openWithRates("");
     for (const char* rate : {"1,00", "2,00", "3,00"}) {
         tick("Check20");
-        for (const BoxOfKey& one : boxes) {
+        for (const BoxOfKey& one : staffBoxes) {
             if (!isG(one.key)) type("txt" + std::string(one.key) + "Day", rate);
         }
         click("cmdSalva");
     }
     EXPECT_EQ(toHex(file("PmDip.dat")), toHex(tariffBytes("", [](int number, int kind) {
-                  const bool typed = kind == 0 && !isG(boxes[static_cast<std::size_t>(number) - 1].key);
+                  const bool typed = kind == 0 && !isG(staffBoxes[static_cast<std::size_t>(number) - 1].key);
                   return typed ? 300 : distinctCents(number, kind);
               })));
 }

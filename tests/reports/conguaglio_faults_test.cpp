@@ -17,7 +17,7 @@
 namespace vorbano::test {
 namespace {
 
-const Heading heading{.Elezione = "Politiche e Comunali", .Data = "del 13 Aprile 2008", .Databall = "edizione"};
+const Heading headingOf2008{.Elezione = "Politiche e Comunali", .Data = "del 13 Aprile 2008", .Databall = "edizione"};
 const Election politiche{"Politiche_Comunali", "13-04-08"};
 const Election regionali{"Regionali", "28-03-10"};
 
@@ -97,13 +97,14 @@ TEST_P(ConguaglioFaults, AMissingFolderIsAFailure) {
 INSTANTIATE_TEST_SUITE_P(
     All, ConguaglioFaults,
     testing::Values(
-        // Three employees and four companions; a heading and two documents; the statement and a heading.
+        // Three employees and four companions; a headingOf2008 and two documents; the statement and a headingOf2008.
         Document{"Liquidazione", "frmTutteStampe.cmdConguaglio", 7,
-                 [](const Workplace& on, const Election& of) { return printConguaglio(on, of, heading); }},
-        Document{"Versamenti", "frmTutteStampe.cmdCongA", 3,
-                 [](const Workplace& on, const Election& of) { return printContributiConguaglio(on, of, heading); }},
+                 [](const Workplace& on, const Election& of) { return printConguaglio(on, of, headingOf2008); }},
+        Document{
+            "Versamenti", "frmTutteStampe.cmdCongA", 3,
+            [](const Workplace& on, const Election& of) { return printContributiConguaglio(on, of, headingOf2008); }},
         Document{"Rendiconto", "frmTutteStampe.cmdCongRend", 2,
-                 [](const Workplace& on, const Election& of) { return printCongRend(on, of, heading); }}),
+                 [](const Workplace& on, const Election& of) { return printCongRend(on, of, headingOf2008); }}),
     [](const auto& document) { return std::string(document.param.name); });
 
 }  // namespace

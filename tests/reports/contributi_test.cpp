@@ -38,7 +38,8 @@ std::string documents(const std::array<int, 8>& cents) {
 const std::string before = documents({1, 2, 3, 4, 5, 6, 7, 8});
 const std::string after = documents({1800, 1800, 2100, 600, 900, 11111, 2222, 8});
 
-const Heading heading{.Elezione = "Europee", .Data = "del 26 Maggio 2013", .Databall = "{Vorbano 3.9 edizione 2014}"};
+const Heading headingOf2013{
+    .Elezione = "Europee", .Data = "del 26 Maggio 2013", .Databall = "{Vorbano 3.9 edizione 2014}"};
 
 class Contributi : public StampeDesk {
   protected:
@@ -118,7 +119,7 @@ TEST_F(Contributi, KeepsASurplusOfTheEmployeeTableForTheNextDocument) {
     Row left;
     left.setText("Nome", "X");
     ASSERT_THAT(staging.append("Tabella3", left), Succeeds());
-    ASSERT_THAT(printContributi(desk, {"Europee", "26-05-13"}, {}, heading), Succeeds());
+    ASSERT_THAT(printContributi(desk, {"Europee", "26-05-13"}, {}, headingOf2013), Succeeds());
     EXPECT_EQ(seen.rows("Tabella3"), 4);
     EXPECT_EQ(tables().rows("Tabella3"), 1);
 }
@@ -180,7 +181,7 @@ TEST_F(Contributi, WithoutEmployeesNothingIsSetToNothing) {
 TEST_F(Contributi, FaultsOfTheDiskLeaveTheDocumentsOldOrNew) {
     FailingFileSystem failing(files);
     const Workplace broken{failing, desktop, staging, printing, screens, places};
-    const auto print = [&] { return printContributi(broken, {"Europee", "26-05-13"}, {true, false}, heading); };
+    const auto print = [&] { return printContributi(broken, {"Europee", "26-05-13"}, {true, false}, headingOf2013); };
     layAll();
     const int operations = operationsOf(failing, [&] { EXPECT_THAT(print(), Succeeds()); });
     for (const Fault fault : bothFaults) {
@@ -205,7 +206,7 @@ TEST_F(Contributi, ARowThatCannotBeStagedEndsItAndEverythingIsCleared) {
         FailingDatabase failing;
         failing.failAt = n;
         const Workplace broken{files, desktop, failing, printing, screens, places};
-        EXPECT_FALSE(printContributi(broken, {"Europee", "26-05-13"}, {}, heading).ok()) << n;
+        EXPECT_FALSE(printContributi(broken, {"Europee", "26-05-13"}, {}, headingOf2013).ok()) << n;
         EXPECT_EQ(failing.appends, n);
         for (const TableInfo& table : stagingTables()) EXPECT_EQ(failing.count(table.name).valueOr(-1), 0);
     }

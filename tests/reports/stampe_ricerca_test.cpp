@@ -6,7 +6,7 @@ namespace vorbano::test {
 namespace {
 
 /// The first record of a file of stations, `width` bytes, of an election with so many stations.
-std::string stationBytes(std::size_t width, int stations) {
+std::string firstRecordBytes(std::size_t width, int stations) {
     std::string record = padded("Europee", 14) + "09-06-24" + le16(stations) + le16(1);
     record.resize(width, ' ');
     return record;
@@ -140,7 +140,7 @@ TEST_F(Ricerca, LeavesTheFilesItLookedForBehindEmpty) {
 }
 
 TEST_F(Ricerca, SpecialStationsOfTheRunOff) {
-    ASSERT_TRUE(layFile("SpecSufr.vbn", stationBytes(224, 3)));
+    ASSERT_TRUE(layFile("SpecSufr.vbn", firstRecordBytes(224, 3)));
     open();
     search("Europee", "09-06-24");
     EXPECT_EQ(flags(), "1||||3|1|1|");
@@ -148,7 +148,7 @@ TEST_F(Ricerca, SpecialStationsOfTheRunOff) {
 }
 
 TEST_F(Ricerca, NormalStationsOfTheRunOff) {
-    ASSERT_TRUE(layFile("SegSuf.vbn", stationBytes(246, 12)));
+    ASSERT_TRUE(layFile("SegSuf.vbn", firstRecordBytes(246, 12)));
     open();
     search("Europee", "09-06-24");
     EXPECT_EQ(flags(), "1|||12||0|0|");
@@ -157,7 +157,7 @@ TEST_F(Ricerca, NormalStationsOfTheRunOff) {
 }
 
 TEST_F(Ricerca, NormalStations) {
-    ASSERT_TRUE(layFile("Seggi.vbn", stationBytes(216, 300)));
+    ASSERT_TRUE(layFile("Seggi.vbn", firstRecordBytes(216, 300)));
     open();
     search("Europee", "09-06-24");
     EXPECT_EQ(flags(), "1|300||||1|0|");
@@ -166,7 +166,7 @@ TEST_F(Ricerca, NormalStations) {
 }
 
 TEST_F(Ricerca, SpecialStations) {
-    ASSERT_TRUE(layFile("Speciale.vbn", stationBytes(216, 2)));
+    ASSERT_TRUE(layFile("Speciale.vbn", firstRecordBytes(216, 2)));
     open();
     search("Europee", "09-06-24");
     EXPECT_EQ(flags(), "0||2|||1|0|");
@@ -234,7 +234,7 @@ TEST_F(Ricerca, TakenBackPutsTheScreenBackAsAtLoad) {
                                       {"SegSuf.vbn", 246},
                                       {"Speciale.vbn", 216},
                                       {"SpecSufr.vbn", 224}}) {
-        ASSERT_TRUE(lay(files, std::string("Elezioni/Europee_Comunali/26-05-13/") + name, stationBytes(width, 4)));
+        ASSERT_TRUE(lay(files, std::string("Elezioni/Europee_Comunali/26-05-13/") + name, firstRecordBytes(width, 4)));
     }
     auto& stampe = open();
     search("Europee_Comunali", "26-05-13");
