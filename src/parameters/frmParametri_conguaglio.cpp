@@ -11,7 +11,7 @@ namespace vorbano {
 
 namespace {
 
-constexpr std::string_view yearBanner = "\nSONO APPLICATE LE TARIFFE ANNO ";
+constexpr std::string_view yearBanner = "SONO APPLICATE LE TARIFFE ANNO ";
 
 /// The year of a date of effect, "01/04/2008".
 std::string_view yearOf(std::string_view date) {

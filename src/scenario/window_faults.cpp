@@ -28,10 +28,7 @@ std::string named(const QWidget& widget, const QString& words) {
 std::string sized(QSize size) { return std::to_string(size.width()) + " x " + std::to_string(size.height()); }
 
 /// The room that a window has inside its frame. Below the smallest desk of an office windows are scrolled.
-QSize roomOn(const QScreen& screen) {
-    constexpr QSize frame(16, 40);
-    return screen.availableGeometry().size().expandedTo(smallestDesk) - frame;
-}
+QSize roomOn(const QScreen& screen) { return screen.availableGeometry().size().expandedTo(smallestDesk) - windowFrame; }
 
 void addTooLarge(const FormWindow& window, const QWidget& content, Faults& faults) {
     const QSize room = roomOn(*window.screen());

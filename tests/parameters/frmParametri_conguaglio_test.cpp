@@ -100,7 +100,7 @@ TEST_F(AdjustmentScreen, ADateOfEffectWithoutAnElectionDoesNotStay) {
     choose("cboDeco", "01/04/2008");
     EXPECT_EQ(text("lblDeco"), "");
     EXPECT_EQ(text("txtD5Day"), "1,01");
-    EXPECT_EQ(text("Label26"), "\nSONO APPLICATE LE TARIFFE ANNO ");
+    EXPECT_EQ(text("Label26"), "SONO APPLICATE LE TARIFFE ANNO ");
 }
 
 TEST_F(AdjustmentScreen, ADateOfEffectShowsItsRatesAndItsYear) {
@@ -108,7 +108,7 @@ TEST_F(AdjustmentScreen, ADateOfEffectShowsItsRatesAndItsYear) {
     prepare("Europee", "06-06-09");
     choose("cboDeco", "01/04/2008");
     EXPECT_EQ(text("lblDeco"), "01/04/2008");
-    EXPECT_EQ(text("Label26"), "\nSONO APPLICATE LE TARIFFE ANNO 2008");
+    EXPECT_EQ(text("Label26"), "SONO APPLICATE LE TARIFFE ANNO 2008");
     for (int number = 1; number <= 32; ++number) {
         const std::string stem = "txt" + std::string(expectedRows.at(static_cast<std::size_t>(number) - 1).key);
         EXPECT_EQ(text(stem + "Day"), std::to_string(number) + ",51");
@@ -123,7 +123,7 @@ TEST_F(AdjustmentScreen, ADateOfEffectThatWasNeverStoredDoesNotStay) {
     choose("cboDeco", "01/04/2008");
     choose("cboDeco", "01/01/2009");
     EXPECT_EQ(text("lblDeco"), "");
-    EXPECT_EQ(text("Label26"), "\nSONO APPLICATE LE TARIFFE ANNO ");
+    EXPECT_EQ(text("Label26"), "SONO APPLICATE LE TARIFFE ANNO ");
     EXPECT_EQ(text("txtD5Day"), "1,51");
 }
 
@@ -162,7 +162,7 @@ TEST_F(AdjustmentScreen, AVersionOfTheTariffsEndsTheDateOfEffect) {
     chooseElection("Europee", "06-06-09");
     choose("cboDeco", "01/04/2008");
     tick("Check46", false);
-    EXPECT_EQ(text("Label26"), "\nSONO APPLICATE LE TARIFFE ANNO 2008");
+    EXPECT_EQ(text("Label26"), "SONO APPLICATE LE TARIFFE ANNO 2008");
     click("cmdTarNuove");
     EXPECT_EQ(text("txtD5Day"), "1,01");
     EXPECT_EQ(text("Label26"), "\nSONO APPLICATE LE    NUOVE TARIFFE");

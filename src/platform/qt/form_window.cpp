@@ -125,12 +125,12 @@ void FormWindow::grow() {
     }
     const QSize lacking = (least - scroll_->size()).expandedTo({0, 0});
     if (lacking.isNull()) return;
-    constexpr QSize frame(16, 40);  // what the window manager adds around it
     const QRect desk = screen()->availableGeometry();
     QRect grown(geometry());
-    grown.setSize((size() + lacking).boundedTo(desk.size() - frame).expandedTo(size()));
+    grown.setSize((size() + lacking).boundedTo(desk.size() - windowFrame).expandedTo(size()));
     grown.moveLeft(std::max(desk.left(), std::min(grown.left(), desk.right() - grown.width())));
-    grown.moveTop(std::max(desk.top() + frame.height() - 8, std::min(grown.top(), desk.bottom() - grown.height())));
+    grown.moveTop(
+        std::max(desk.top() + windowFrame.height() - 8, std::min(grown.top(), desk.bottom() - grown.height())));
     if (grown.size() != size()) setGeometry(grown);
 }
 

@@ -25,6 +25,7 @@
 
 #include <QDialog>
 #include <QHash>
+#include <QSize>
 #include <map>
 #include <memory>
 #include <set>
@@ -43,6 +44,9 @@ class QScrollArea;
 class QTimer;
 
 namespace vorbano {
+
+/// What the window manager adds around a window, in logical pixels.
+inline constexpr QSize windowFrame(16, 40);
 
 class WindowBars;
 class WindowMenu;

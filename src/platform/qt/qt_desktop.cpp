@@ -25,9 +25,8 @@ namespace {
 void place(QWidget& window, const QWidget* below) {
     const QScreen* screen = below != nullptr ? below->screen() : QGuiApplication::primaryScreen();
     if (screen == nullptr) return;
-    constexpr QSize frame(16, 40);  // what the window manager adds around it
     const QRect room = screen->availableGeometry();
-    const QSize most = room.size() - frame;
+    const QSize most = room.size() - windowFrame;
     QSize size = window.sizeHint();
     const int bar = window.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     if (size.height() > most.height()) size.rwidth() += bar;
@@ -36,8 +35,8 @@ void place(QWidget& window, const QWidget* below) {
     QRect geometry(QPoint(), size);
     geometry.moveCenter(centre);
     geometry.moveLeft(std::clamp(geometry.left(), room.left(), std::max(room.left(), room.right() - size.width())));
-    geometry.moveTop(std::clamp(geometry.top(), room.top() + frame.height() - 8,
-                                std::max(room.top() + frame.height() - 8, room.bottom() - size.height())));
+    geometry.moveTop(std::clamp(geometry.top(), room.top() + windowFrame.height() - 8,
+                                std::max(room.top() + windowFrame.height() - 8, room.bottom() - size.height())));
     window.setGeometry(geometry);
 }
 
