@@ -11,6 +11,9 @@ target_compile_options(vorbano_flags INTERFACE
   -Wno-restrict -Wno-stringop-overflow -Wno-maybe-uninitialized -Wno-array-bounds)
 # The toolkit wants it of all that include its headers, and what shares precompiled headers is compiled alike.
 target_compile_options(vorbano_flags INTERFACE -fPIC)
+if(WIN32)
+  target_compile_definitions(vorbano_flags INTERFACE UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0A00)
+endif()
 # Lets the compiler cache look through precompiled headers.
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
   target_compile_options(vorbano_flags INTERFACE -fpch-preprocess)
@@ -30,12 +33,19 @@ set(toolkitHeaders <QtWidgets/QtWidgets> <QtSql/QtSql> <QtPrintSupport/QtPrintSu
 add_library(vorbano_headers OBJECT ${CMAKE_SOURCE_DIR}/cmake/headers.cpp)
 target_link_libraries(vorbano_headers PRIVATE vorbano_flags)
 target_precompile_headers(vorbano_headers PRIVATE ${standardHeaders})
-find_package(GTest REQUIRED)
-add_library(vorbano_test_headers OBJECT ${CMAKE_SOURCE_DIR}/cmake/headers.cpp)
-target_link_libraries(vorbano_test_headers PRIVATE vorbano_flags GTest::gmock)
-# Optimising the tests themselves takes longer than they run.
-target_compile_options(vorbano_test_headers PRIVATE -O0)
-target_precompile_headers(vorbano_test_headers PRIVATE ${testHeaders})
+if(VORBANO_TESTS)
+  # A package has it built for the machine itself, and its sources for any other.
+  if(CMAKE_CROSSCOMPILING)
+    add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
+  else()
+    find_package(GTest REQUIRED)
+  endif()
+  add_library(vorbano_test_headers OBJECT ${CMAKE_SOURCE_DIR}/cmake/headers.cpp)
+  target_link_libraries(vorbano_test_headers PRIVATE vorbano_flags GTest::gmock)
+  # Optimising the tests themselves takes longer than they run.
+  target_compile_options(vorbano_test_headers PRIVATE -O0)
+  target_precompile_headers(vorbano_test_headers PRIVATE ${testHeaders})
+endif()
 
 # vorbano_lint(NAME SOURCES... LINKS ...): the same sources, eight at a time, for the linter alone. It spends most of its
 # time in headers, and so reads them once for eight. A name in an unnamed namespace is therefore used once in a folder.
@@ -110,6 +120,11 @@ function(vorbano_test name)
   if(ARG_SHORT)
     vorbano_short(${name})
     set(label short)
+  endif()
+  if(CMAKE_CROSSCOMPILING)
+    # Each start under the emulator takes its time: the whole folder is one test.
+    add_test(NAME ${name} COMMAND ${name})
+    return()
   endif()
   # Two properties of one value each: a list would be taken apart on its way to the tests.
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES LABELS ${label} FIXTURES_SETUP unit

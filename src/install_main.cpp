@@ -9,6 +9,7 @@
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/style.h"
 #include "storage/disk_file_system.h"
+#include "storage/system_text.h"
 
 namespace {
 
@@ -31,7 +32,7 @@ int lay(const std::string& root, bool inWindow) {
 
 int main(int argc, char** argv) {
     const bool inWindow = argc > 1 && std::strcmp(argv[1], "--window") == 0;
-    const std::string root = vorbano::installationRoot().string();
+    const std::string root = vorbano::utf8(vorbano::installationRoot());
     if (inWindow) {
         const QApplication application(argc, argv);
         return lay(root, true);

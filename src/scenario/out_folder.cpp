@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "scenario/looks.h"
+#include "storage/system_text.h"
 
 namespace vorbano {
 
@@ -22,13 +23,6 @@ std::string layFileOver(const fs::path& from, const std::string& to, FileSystem&
 }
 
 }  // namespace
-
-fs::path pathOf(std::string_view text) { return std::u8string(text.begin(), text.end()); }
-
-std::string utf8(const fs::path& path) {
-    const std::u8string text = path.generic_u8string();
-    return {text.begin(), text.end()};
-}
 
 std::optional<std::string> contentOfFile(const fs::path& file) {
     std::error_code trouble;

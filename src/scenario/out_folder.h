@@ -9,10 +9,6 @@
 
 namespace vorbano {
 
-/// UTF-8 to a path and back, on every system.
-[[nodiscard]] std::filesystem::path pathOf(std::string_view utf8);
-[[nodiscard]] std::string utf8(const std::filesystem::path& path);
-
 /// The bytes of a file of this machine; nothing when it is none or cannot be read.
 [[nodiscard]] std::optional<std::string> contentOfFile(const std::filesystem::path& file);
 

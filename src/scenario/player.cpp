@@ -3,6 +3,7 @@
 #include "scenario/comparing.h"
 #include "scenario/gestures.h"
 #include "scenario/out_folder.h"
+#include "storage/system_text.h"
 
 namespace vorbano {
 

@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "platform/qt/installation.h"
+#include "platform/qt/places_choice.h"
 #include "platform/qt/report_renderer.h"
 #include "platform/qt/sqlite_database.h"
 #include "platform/staging_tables.h"
@@ -15,6 +16,7 @@
 #include "scenario/window_play.h"
 #include "storage/disk_file_system.h"
 #include "storage/noticing_file_system.h"
+#include "storage/system_text.h"
 
 namespace vorbano {
 
@@ -28,7 +30,6 @@ std::string playIn(const fs::path& root, const Scenario& scenario, const Orders&
     }
     DiskFileSystem files(root);
     SqliteDatabase staging(utf8(root / "Stampe" / "dbStampa.mdb"));
-    SqliteDatabase places(utf8(root / "Stampe" / "Comuni.mdb"));
     QtRenderer renderer(staging, layoutsOf(files));
     const char* surfaceFile = std::getenv("VORBANO_SURFACE");
     Surface surface(surfaceFile == nullptr ? fs::path() : pathOf(surfaceFile));
@@ -36,7 +37,8 @@ std::string playIn(const fs::path& root, const Scenario& scenario, const Orders&
     NoticingFileSystem noted(
         files, [](const Unwritten&) {}, [&surface] { surface.wrote(); });
     const Start start = [&](Desktop& desktop, PrintEngine& printing) {
-        Program(noted, desktop, staging, places, printing).run();
+        const auto places = choosePlaces(utf8(root), desktop);
+        Program(noted, desktop, staging, *places, printing).run();
     };
     if (!orders.window) return playBare(scenario, stage, renderer, start);
     return playInWindows(scenario, stage, renderer, start, orders.watch ? Pace::slow : Pace::quick);

@@ -11,6 +11,7 @@
 #include "scenario/out_folder.h"
 #include "scenario/pointer.h"
 #include "scenario/widget_looks.h"
+#include "storage/system_text.h"
 
 namespace vorbano {
 

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "platform/qt/places_choice.h"
 #include "platform/qt/qt_desktop.h"
 #include "platform/qt/qt_printer.h"
 #include "platform/qt/report_engine.h"
@@ -11,6 +12,7 @@
 #include "program/layouts.h"
 #include "program/program.h"
 #include "storage/disk_file_system.h"
+#include "storage/system_text.h"
 
 namespace vorbano {
 
@@ -21,15 +23,15 @@ int runOnDesk(int argc, char** argv, const std::function<void()>& begun) {
 
     const auto root = installationRoot();
     DiskFileSystem files(root);
-    SqliteDatabase staging((root / "Stampe" / "dbStampa.mdb").string());
-    SqliteDatabase places((root / "Stampe" / "Comuni.mdb").string());
+    SqliteDatabase staging(utf8(root / "Stampe" / "dbStampa.mdb"));
     QtDesktop desktop;
+    const auto places = choosePlaces(utf8(root), desktop);
     const auto above = [&desktop] { return desktop.frontWindow(); };
     QtRenderer renderer(staging, layoutsOf(files));
     QtPrinter printer(above);
     QtPrintEngine printing(renderer, printer, above);
 
-    Program program(files, desktop, staging, places, printing);
+    Program program(files, desktop, staging, *places, printing);
     program.run();
     return 0;
 }

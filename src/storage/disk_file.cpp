@@ -1,173 +1,43 @@
 #include "storage/disk_file.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
-#include <cerrno>
-#include <cstdio>
-#include <utility>
 #include <vector>
 
 namespace vorbano {
 
-namespace {
-
-Error lastError(std::string_view subject) {
-    return {failureOf(std::error_code(errno, std::generic_category())), std::string(subject)};
+Result<std::size_t> DiskFile::read(std::uint64_t offset, std::span<std::byte> into) {
+    std::size_t done = 0;
+    while (done < into.size()) {
+        const auto got = readSome(offset + done, into.subspan(done));
+        if (!got) return got.error();
+        if (*got == 0) break;
+        done += *got;
+    }
+    return done;
 }
 
-/// Calls again as long as a signal comes between.
-template <class Call>
-auto uninterrupted(Call&& call) {
-    for (;;) {
-        const auto result = call();
-        if (result >= 0 || errno != EINTR) return result;
-    }
+// A full disk takes the first part of a record and refuses the rest; a part of a record must not stay behind.
+Result<> DiskFile::write(std::uint64_t offset, std::span<const std::byte> bytes) {
+    const auto length = size();
+    if (!length) return length.error();
+    std::vector<std::byte> old(static_cast<std::size_t>(
+        offset < *length ? std::min<std::uint64_t>(bytes.size(), *length - offset) : std::uint64_t{0}));
+    if (const auto known = read(offset, old); !known) return known.error();
+    auto done = put(offset, bytes);
+    if (done) return {};
+    // What cannot be taken back either is told with the failure itself.
+    put(offset, old).ignore();
+    cutAt(*length).ignore();
+    return done;
 }
 
-class DiskFile : public File {
-  public:
-    /// `newIn`: the folder whose list of names has yet to be flushed, empty when the file was there before.
-    DiskFile(int descriptor, std::filesystem::path newIn, std::string subject)
-        : descriptor_(descriptor), newIn_(std::move(newIn)), subject_(std::move(subject)) {}
-    DiskFile(const DiskFile&) = delete;
-    DiskFile& operator=(const DiskFile&) = delete;
-    ~DiskFile() override { ::close(descriptor_); }
-
-    Result<std::size_t> read(std::uint64_t offset, std::span<std::byte> into) override {
-        std::size_t done = 0;
-        while (done < into.size()) {
-            const auto rest = into.subspan(done);
-            const auto got = uninterrupted(
-                [&] { return ::pread(descriptor_, rest.data(), rest.size(), static_cast<off_t>(offset + done)); });
-            if (got < 0) return lastError(subject_);
-            if (got == 0) break;
-            done += static_cast<std::size_t>(got);
-        }
-        return done;
+Result<> DiskFile::put(std::uint64_t offset, std::span<const std::byte> bytes) {
+    for (std::size_t done = 0; done < bytes.size();) {
+        const auto count = writeSome(offset + done, bytes.subspan(done));
+        if (!count) return count.error();
+        done += *count;
     }
-
-    Result<> write(std::uint64_t offset, std::span<const std::byte> bytes) override {
-        const auto length = size();
-        if (!length) return length.error();
-        std::vector<std::byte> old(static_cast<std::size_t>(
-            offset < *length ? std::min<std::uint64_t>(bytes.size(), *length - offset) : std::uint64_t{0}));
-        if (const auto known = read(offset, old); !known) return known.error();
-        auto done = put(offset, bytes);
-        if (!done) takeBack(offset, old, *length);
-        return done;
-    }
-
-    Result<std::uint64_t> size() override {
-        struct stat status {};
-        if (::fstat(descriptor_, &status) != 0) return lastError(subject_);
-        return static_cast<std::uint64_t>(status.st_size);
-    }
-
-    Result<> flush() override {
-        if (uninterrupted([&] { return ::fsync(descriptor_); }) != 0) return lastError(subject_);
-        if (newIn_.empty()) return {};
-        auto done = flushFolder(newIn_, subject_);
-        if (done) newIn_.clear();
-        return done;
-    }
-
-  private:
-    Result<> put(std::uint64_t offset, std::span<const std::byte> bytes) {
-        for (std::size_t done = 0; done < bytes.size();) {
-            const auto rest = bytes.subspan(done);
-            const auto count = uninterrupted(
-                [&] { return ::pwrite(descriptor_, rest.data(), rest.size(), static_cast<off_t>(offset + done)); });
-            if (count < 0) return lastError(subject_);
-            done += static_cast<std::size_t>(count);
-        }
-        return {};
-    }
-
-    /// A full disk takes the first part of a record and refuses the rest; a part of a record must not stay behind.
-    void takeBack(std::uint64_t offset, std::span<const std::byte> old, std::uint64_t length) {
-        put(offset, old).ignore();
-        // What cannot be cut off either is told with the failure itself.
-        (void)uninterrupted([&] { return ::ftruncate(descriptor_, static_cast<off_t>(length)); });
-    }
-
-    int descriptor_;
-    std::filesystem::path newIn_;
-    std::string subject_;
-};
-
-int flagsOf(OpenMode mode) {
-    switch (mode) {
-        case OpenMode::create:
-            return O_RDWR | O_CREAT | O_CLOEXEC;
-        case OpenMode::readAndWrite:
-            return O_RDWR | O_CLOEXEC;
-        case OpenMode::readOnly:
-            break;
-    }
-    return O_RDONLY | O_CLOEXEC;
-}
-
-}  // namespace
-
-Failure failureOf(std::error_code error) {
-    switch (error.value()) {
-        case ENOENT:
-        case ENOTDIR:
-            return Failure::notFound;
-        case EACCES:
-        case EPERM:
-        case EROFS:
-        case EISDIR:
-        case EEXIST:
-        case ENOTEMPTY:
-        case EBUSY:
-        case ETXTBSY:
-        case EBADF:
-            return Failure::refused;
-        case ENAMETOOLONG:
-            return Failure::badName;
-        case ENOSPC:
-        case EDQUOT:
-        case EFBIG:
-            return Failure::diskFull;
-        default:
-            return Failure::device;
-    }
-}
-
-Result<std::unique_ptr<File>> openDiskFile(const std::filesystem::path& path, OpenMode mode, std::string_view subject) {
-    constexpr mode_t readableByAll = 0666;  // less what the user's mask takes away
-    const int descriptor = uninterrupted([&] { return ::open(path.c_str(), flagsOf(mode), readableByAll); });
-    if (descriptor < 0) return lastError(subject);
-    auto file = std::make_unique<DiskFile>(descriptor, mode == OpenMode::create ? path.parent_path() : "",
-                                           std::string(subject));
-    struct stat status {};
-    if (::fstat(descriptor, &status) != 0) return lastError(subject);
-    // A folder can be opened for reading like a file; only its reading would fail.
-    if (!S_ISREG(status.st_mode)) return Error{Failure::refused, std::string(subject)};
-    return std::unique_ptr<File>(std::move(file));
-}
-
-Result<> replaceDiskFile(const std::filesystem::path& from, const std::filesystem::path& to, std::string_view subject) {
-    if (std::rename(from.c_str(), to.c_str()) != 0) return lastError(subject);
-    if (auto done = flushFolder(to.parent_path(), subject); !done) return done;
-    if (from.parent_path() == to.parent_path()) return {};
-    return flushFolder(from.parent_path(), subject);
-}
-
-Result<> flushFolder(const std::filesystem::path& folder, std::string_view subject) {
-    const int descriptor = uninterrupted([&] { return ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); });
-    if (descriptor < 0) return lastError(subject);
-    const int failed = uninterrupted([&] { return ::fsync(descriptor); });
-    const int reason = errno;
-    ::close(descriptor);
-    // Some file systems keep their names safe by themselves and know no flushing of folders.
-    if (failed == 0 || reason == EINVAL) return {};
-    errno = reason;
-    return lastError(subject);
+    return {};
 }
 
 }  // namespace vorbano

@@ -1,13 +1,12 @@
 #include "storage/disk_file_system.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <optional>
 #include <tuple>
 #include <utility>
 
 #include "storage/codepage.h"
 #include "storage/disk_file.h"
+#include "storage/system_text.h"
 
 namespace vorbano {
 
@@ -18,20 +17,12 @@ namespace fs = std::filesystem;
 Error failed(Failure kind, std::string_view path) { return {kind, std::string(path)}; }
 Error failed(std::error_code error, std::string_view path) { return failed(failureOf(error), path); }
 
-/// The names in the program are UTF-8 whatever the system's own narrow encoding is.
-fs::path pathOf(std::string_view utf8) { return {std::u8string(utf8.begin(), utf8.end())}; }
-
-std::string utf8Of(const fs::path& path) {
-    const std::u8string name = path.u8string();
-    return {name.begin(), name.end()};
-}
-
 /// The entries of a folder on disk in the order of their names.
 std::vector<Entry> entriesOf(const fs::path& folder, std::error_code& error) {
     std::vector<std::pair<std::string, Entry>> byName;
     for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
         std::error_code unknown;
-        Entry entry{utf8Of(at->path().filename()), at->is_directory(unknown)};
+        Entry entry{utf8(at->path().filename()), at->is_directory(unknown)};
         std::string key = upperCase(entry.name);
         byName.emplace_back(std::move(key), std::move(entry));
     }
@@ -91,12 +82,6 @@ fs::path wholePath(const fs::path& root) {
     std::error_code unknown;
     const fs::path whole = fs::absolute(root, unknown).lexically_normal();
     return whole.has_filename() ? whole : whole.parent_path();
-}
-
-std::optional<std::string> setting(const char* name) {
-    const char* const value = std::getenv(name);
-    if (value == nullptr || *value == '\0') return std::nullopt;
-    return value;
 }
 
 }  // namespace

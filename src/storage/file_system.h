@@ -50,9 +50,10 @@ class FileSystem {
     /// Opens for reading only; `notFound` when it is not there (or its folder is not).
     virtual Result<std::unique_ptr<File>> openExisting(std::string_view path) = 0;
     /// Puts `from` in the place of `to` in one step: at no instant is `to` missing. `to` need not exist; it keeps the
-    /// spelling that it has on disk. `notFound` when `from` is not there.
+    /// spelling that it has on disk. `notFound` when `from` is not there, `refused` when one of them is a folder, or is
+    /// open (some systems let it pass, but not the clerk's).
     virtual Result<> replace(std::string_view from, std::string_view to) = 0;
-    /// Deletes a file. `notFound` when it is not there, `refused` when it is a folder.
+    /// Deletes a file. `notFound` when it is not there, `refused` when it is a folder, or is open as at replace.
     virtual Result<> remove(std::string_view path) = 0;
     /// Entries of a folder in the order of their names; "" is the root. `missingFolder` when it is not there.
     virtual Result<std::vector<Entry>> list(std::string_view folder) = 0;

@@ -11,7 +11,7 @@ namespace {
 
 using Room = std::shared_ptr<std::optional<std::uint64_t>>;
 
-/// What a file holds. Open files share it, so it lives on after its name is gone.
+/// What a file holds; open files share it.
 struct Content {
     explicit Content(Room room) : room_(std::move(room)) {}
     Content(const Content&) = delete;
@@ -87,6 +87,8 @@ struct MemoryFileSystem::Node {
     std::map<std::string, std::unique_ptr<Node>> children;
 
     [[nodiscard]] bool isFolder() const { return content == nullptr; }
+    /// Besides this node only open files hold the content.
+    [[nodiscard]] bool isOpen() const { return content.use_count() > 1; }
     [[nodiscard]] Node* child(std::string_view childName) const {
         const auto found = children.find(upperCase(childName));
         return found == children.end() ? nullptr : found->second.get();
@@ -164,7 +166,8 @@ Result<> MemoryFileSystem::replace(std::string_view from, std::string_view to) {
     if (moved == old) return {};
     const bool readOnly = (*source)->readOnly || (*target)->readOnly || moved->readOnly || (old && old->readOnly);
     if (readOnly || moved->isFolder() || (old && old->isFolder())) return refusal(Failure::refused, to);
-    // What stands there keeps its spelling and takes the other's content; who has it open still sees the old one.
+    if (moved->isOpen() || (old && old->isOpen())) return refusal(Failure::refused, to);
+    // What stands there keeps its spelling and takes the other's content.
     Node* const place = old ? old : (*target)->add(toName, nullptr);
     place->content = moved->content;
     (*source)->children.erase(upperCase(fromName));
@@ -178,7 +181,7 @@ Result<> MemoryFileSystem::remove(std::string_view path) {
     std::string name;
     auto parent = parentOf(path, name);
     if (!parent) return parent.error();
-    if ((*node)->readOnly || (*parent)->readOnly) return refusal(Failure::refused, path);
+    if ((*node)->readOnly || (*parent)->readOnly || (*node)->isOpen()) return refusal(Failure::refused, path);
     (*parent)->children.erase(upperCase(name));
     return {};
 }

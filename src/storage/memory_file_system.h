@@ -10,7 +10,8 @@
 namespace vorbano {
 
 /// A disk in memory, for fast tests. It keeps apart what was flushed and what was only written, so that
-/// `cutPower()` can leave what a power cut may leave.
+/// `cutPower()` can leave what a power cut may leave. Like the disk of the clerk's machine it refuses to take an open
+/// file away; so every test shows that no command relies on it.
 class MemoryFileSystem : public FileSystem {
   public:
     MemoryFileSystem();

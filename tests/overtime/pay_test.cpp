@@ -7,13 +7,15 @@
 #include <string>
 #include <vector>
 
+#include "support/cent.h"
+
 namespace vorbano {
 namespace {
 
+using test::cent;
 using RatesByKind = std::array<Currency, hourKinds>;
 
 constexpr Currency units(std::int64_t number) { return Currency::fromUnits(number); }
-constexpr Currency cent(std::int64_t number) { return Currency::fromCents(number); }
 
 /// 23,80, 8,50, 8,80 and 0,35 percent.
 constexpr Percentages usual{

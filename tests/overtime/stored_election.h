@@ -15,6 +15,7 @@
 #include "records/statement_records.h"
 #include "storage/memory_file_system.h"
 #include "support/bytes.h"
+#include "support/cent.h"
 #include "support/laid_out_records.h"
 #include "support/results.h"
 
@@ -33,8 +34,6 @@ inline constexpr LateInUse bothLate = {true, true};
 [[nodiscard]] inline std::string employeesOf(const Election& election) {
     return pathIn(election, election.date + ".vbn");
 }
-
-[[nodiscard]] inline constexpr Currency cent(int cents) { return Currency::fromCents(cents); }
 
 /// The pay of employee n: 12,01 an hour and so on, and amounts that are no sums of each other.
 [[nodiscard]] inline Pay payOf(int n) {

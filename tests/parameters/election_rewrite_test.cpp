@@ -6,14 +6,13 @@
 
 #include "storage/memory_file_system.h"
 #include "support/bytes.h"
+#include "support/cent.h"
 #include "support/expected_tariffs.h"
 #include "support/laid_out_records.h"
 #include "support/results.h"
 
 namespace vorbano::test {
 namespace {
-
-constexpr Currency cent(std::int64_t cents) { return Currency::fromCents(cents); }
 
 /// Row n (from 1) has the `Day` rate n,01.
 DayRates distinctDays() {

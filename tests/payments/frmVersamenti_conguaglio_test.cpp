@@ -12,10 +12,10 @@ using ::testing::IsEmpty;
 const std::vector<const char*> amountFields = {"txtContrDip", "txtFonCred", "txtCoprEnte", "txtIrapEnte",
                                                "txtIrpef",    "txtInail",   "txtInps",     "Label4",
                                                "Label3",      "Label7",     "Label8"};
-const std::vector<const char*> ofAdjustment = {"4,44", "0,15", "16,16", "6,06",  "321,00", "6,50",
-                                               "4,10", "8,9%", "0,4%",  "23,9%", "8,6%"};
-const std::vector<const char*> ofLiquidation = {"19,03", "0,75",  "150,15", "60,07", "1.234,56", "78,90",
-                                                "0,00",  "8,85%", "0,3%",   "24,2%", "8,5%"};
+const std::vector<const char*> shownOfAdjustment = {"4,44", "0,15", "16,16", "6,06",  "321,00", "6,50",
+                                                    "4,10", "8,9%", "0,4%",  "23,9%", "8,6%"};
+const std::vector<const char*> shownOfLiquidation = {"19,03", "0,75",  "150,15", "60,07", "1.234,56", "78,90",
+                                                     "0,00",  "8,85%", "0,3%",   "24,2%", "8,5%"};
 
 class VersamentiConguaglio : public VersamentiTest {
   protected:
@@ -26,12 +26,12 @@ class VersamentiConguaglio : public VersamentiTest {
     void expectAdjustment() {
         EXPECT_TRUE(visible("Label21"));
         EXPECT_EQ(text("cmdConguaglio"), "Annulla Conguaglio");
-        expectAmounts(ofAdjustment);
+        expectAmounts(shownOfAdjustment);
     }
     void expectLiquidation() {
         EXPECT_FALSE(visible("Label21"));
         EXPECT_EQ(text("cmdConguaglio"), "Conguaglio");
-        expectAmounts(ofLiquidation);
+        expectAmounts(shownOfLiquidation);
     }
 };
 

@@ -28,25 +28,25 @@ struct Voice {
 };
 /// The four voices with a rate, then IRPEF, INAIL, INPS.
 using Voices = std::array<Voice, 7>;
-constexpr Voices ofLiquidation = {{{"Check1", "Coprdi", "8,85%", 1903},
-                                   {"Check2", "Cofocrdi", "0,3%", 75},
-                                   {"Check3", "Copren", "24,2%", 15015},
-                                   {"Check4", "Coirap", "8,5%", 6007},
-                                   {"Check5", "Irpef", "", 123456},
-                                   {"Check11", "Inail", "", 7890},
-                                   {"Check17", "Inps", "", 4500}}};
-constexpr Voices ofAdjustment = {{{"Check1", "Coprdi", "8,9%", 444},
-                                  {"Check2", "Cofocrdi", "0,4%", 15},
-                                  {"Check3", "Copren", "23,9%", 1616},
-                                  {"Check4", "Coirap", "8,6%", 606},
-                                  {"Check5", "Irpef", "", 32100},
-                                  {"Check11", "Inail", "", 650},
-                                  {"Check17", "Inps", "", 410}}};
+constexpr Voices voicesOfLiquidation = {{{"Check1", "Coprdi", "8,85%", 1903},
+                                         {"Check2", "Cofocrdi", "0,3%", 75},
+                                         {"Check3", "Copren", "24,2%", 15015},
+                                         {"Check4", "Coirap", "8,5%", 6007},
+                                         {"Check5", "Irpef", "", 123456},
+                                         {"Check11", "Inail", "", 7890},
+                                         {"Check17", "Inps", "", 4500}}};
+constexpr Voices voicesOfAdjustment = {{{"Check1", "Coprdi", "8,9%", 444},
+                                        {"Check2", "Cofocrdi", "0,4%", 15},
+                                        {"Check3", "Copren", "23,9%", 1616},
+                                        {"Check4", "Coirap", "8,6%", 606},
+                                        {"Check5", "Irpef", "", 32100},
+                                        {"Check11", "Inail", "", 650},
+                                        {"Check17", "Inps", "", 410}}};
 
 /// By mandate and by form, in both ways of copies; INAIL by its date, INPS by form.
 std::vector<Save> allSaves(PaymentSet set = PaymentSet::liquidation) {
     std::vector<Save> saves;
-    for (const Voice& voice : set == PaymentSet::adjustment ? ofAdjustment : ofLiquidation) {
+    for (const Voice& voice : set == PaymentSet::adjustment ? voicesOfAdjustment : voicesOfLiquidation) {
         const std::string_view key = voice.key;
         const auto add = [&](const char* document, const char* copies, std::string_view text) {
             const bool mandate = std::string_view(document) == "Check6";

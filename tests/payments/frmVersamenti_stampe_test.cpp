@@ -9,18 +9,18 @@ using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
 using ClosingRows = std::array<std::array<std::string_view, 3>, 6>;
-constexpr ClosingRows ofLiquidation = {{{"Coprdi", "8,85% ", "19,03"},
-                                        {"Cofocrdi", "0,3% ", "0,75"},
-                                        {"Copren", "24,2% ", "150,15"},
-                                        {"Coirap", "8,5% ", "60,07"},
-                                        {"Irpef", "-", "1.234,56"},
-                                        {"Inail", "-", "78,90"}}};
-constexpr ClosingRows ofAdjustment = {{{"Coprdi", "8,9% ", "4,44"},
-                                       {"Cofocrdi", "0,4% ", "0,15"},
-                                       {"Copren", "23,9% ", "16,16"},
-                                       {"Coirap", "8,6% ", "6,06"},
-                                       {"Irpef", "-", "321,00"},
-                                       {"Inail", "-", "6,50"}}};
+constexpr ClosingRows closingOfLiquidation = {{{"Coprdi", "8,85% ", "19,03"},
+                                               {"Cofocrdi", "0,3% ", "0,75"},
+                                               {"Copren", "24,2% ", "150,15"},
+                                               {"Coirap", "8,5% ", "60,07"},
+                                               {"Irpef", "-", "1.234,56"},
+                                               {"Inail", "-", "78,90"}}};
+constexpr ClosingRows closingOfAdjustment = {{{"Coprdi", "8,9% ", "4,44"},
+                                              {"Cofocrdi", "0,4% ", "0,15"},
+                                              {"Copren", "23,9% ", "16,16"},
+                                              {"Coirap", "8,6% ", "6,06"},
+                                              {"Irpef", "-", "321,00"},
+                                              {"Inail", "-", "6,50"}}};
 
 class VersamentiStampe : public VersamentiTest {
   protected:
@@ -36,7 +36,7 @@ class VersamentiStampe : public VersamentiTest {
         printing.jobs.clear();
     }
     /// The closing rows from row `first` on.
-    void expectClosingRows(std::size_t first, const ClosingRows& rows = ofLiquidation) {
+    void expectClosingRows(std::size_t first, const ClosingRows& rows = closingOfLiquidation) {
         ASSERT_EQ(full["Tabella11"].size(), first + 5);
         for (std::size_t at = 0; at < rows.size(); ++at) {
             const Row& row = full["Tabella11"][first - 1 + at];
@@ -228,7 +228,7 @@ TEST_F(VersamentiStampe, TheListAloneOfTheAdjustmentEndsWithWhatTheAdjustmentAdd
     expectRow(1, {{"Mother", "Coprdi"}, {"Importo", "4,44"}, {"Numero", "202"}});
     EXPECT_EQ(*full["Tabella11"][1].find("Son"),
               Value(std::string("data entro la quale sarà effetuato il versamento ")));
-    expectClosingRows(3, ofAdjustment);
+    expectClosingRows(3, closingOfAdjustment);
 }
 
 TEST_F(VersamentiStampe, BackFromTheAdjustmentTheListsAreThoseOfTheLiquidation) {

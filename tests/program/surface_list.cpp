@@ -124,6 +124,8 @@ std::string contentOf(const fs::path& file) {
 /// Folders whose sources speak to the clerk.
 constexpr const char* speakingFolders[] = {"screens",    "shell",     "parameters", "overtime", "stations",
                                            "fiscalcode", "statement", "reports",    "payments", "maintenance"};
+/// And what else does, outside of the screens.
+constexpr const char* speakingSources[] = {"platform/qt/places_choice.cpp"};
 
 /// Written in the program and met by no scenario, each for a reason.
 const std::set<std::string>& provenElsewhere() {
@@ -159,12 +161,16 @@ const std::set<std::string_view>& neverChosen() {
 }
 
 void listTexts(SurfaceList& list, const fs::path& sources) {
+    std::vector<fs::path> speaking;
     for (const char* folder : speakingFolders) {
         for (const auto& entry : fs::directory_iterator(sources / "src" / folder)) {
-            if (entry.path().extension() != ".cpp") continue;
-            for (std::string& text : wordsIn(contentOf(entry.path()))) {
-                if (!provenElsewhere().contains(text)) list.texts.insert(std::move(text));
-            }
+            if (entry.path().extension() == ".cpp") speaking.push_back(entry.path());
+        }
+    }
+    for (const char* source : speakingSources) speaking.push_back(sources / "src" / source);
+    for (const fs::path& source : speaking) {
+        for (std::string& text : wordsIn(contentOf(source))) {
+            if (!provenElsewhere().contains(text)) list.texts.insert(std::move(text));
         }
     }
 }

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "election_files.h"
 #include "storage/memory_file_system.h"
 #include "storage/record_file.h"
 #include "support/bytes.h"
@@ -13,10 +14,9 @@
 namespace vorbano {
 namespace {
 
+using test::pathOf;
 using test::Sheet;
 using test::toHex;
-
-std::string pathOf(std::string_view name) { return "Elezioni/Europee/06-06-09/" + std::string(name); }
 
 /// The third employee: 70, 32 and 4 hours at new rates, a difference with four decimals and a total below zero.
 std::string adjustmentBytes() {

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "election_files.h"
 #include "storage/memory_file_system.h"
 #include "storage/record_file.h"
 #include "support/bytes.h"
@@ -15,11 +16,8 @@ namespace vorbano {
 namespace {
 
 using test::bytesOf;
+using test::pathOf;
 using test::toHex;
-
-constexpr std::string_view folder = "Elezioni/Europee/09-06-24/";
-
-std::string pathOf(std::string_view file) { return std::string(folder) + std::string(file); }
 
 /// Fourteen amounts in cents, in the order of the record.
 Pay payOf(const std::array<int, 14>& cents) {

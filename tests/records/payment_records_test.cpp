@@ -4,22 +4,22 @@
 
 #include <string>
 
+#include "election_files.h"
 #include "records/payment_voices.h"
 #include "storage/memory_file_system.h"
 #include "storage/only_record.h"
 #include "support/bytes.h"
+#include "support/cent.h"
 #include "support/laid_out_records.h"
 #include "support/results.h"
 
 namespace vorbano {
 namespace {
 
+using test::cent;
+using test::pathOf;
 using test::Sheet;
 using test::toHex;
-
-constexpr Currency cent(int cents) { return Currency::fromCents(cents); }
-
-std::string pathOf(std::string_view name) { return "Elezioni/Europee/09-06-24/" + std::string(name); }
 
 /// A mandate of IRAP in two copies, number 70,000 (more than 16 bits hold).
 std::string mandateBytes() {

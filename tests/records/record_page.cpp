@@ -11,7 +11,7 @@ namespace vorbano::test {
 
 namespace {
 
-const std::filesystem::path folder = std::filesystem::path(VORBANO_SOURCE_DIR) / "docs" / "file";
+const std::filesystem::path pagesFolder = std::filesystem::path(VORBANO_SOURCE_DIR) / "docs" / "file";
 
 /// The cells of "| a | b |".
 std::vector<std::string> cellsOf(std::string_view line) {
@@ -77,7 +77,7 @@ std::string RecordPage::record() const {
 }
 
 std::string recordPageText(std::string_view name) {
-    const std::ifstream file(folder / name);
+    const std::ifstream file(pagesFolder / name);
     std::ostringstream text;
     text << file.rdbuf();
     return text.str();
@@ -85,7 +85,7 @@ std::string recordPageText(std::string_view name) {
 
 std::vector<std::string> recordPageNames() {
     std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(folder))
+    for (const auto& entry : std::filesystem::directory_iterator(pagesFolder))
         names.push_back(entry.path().filename().string());
     std::ranges::sort(names);
     return names;

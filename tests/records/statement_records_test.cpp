@@ -5,19 +5,21 @@
 #include <string>
 #include <vector>
 
+#include "election_files.h"
 #include "storage/memory_file_system.h"
 #include "storage/only_record.h"
 #include "support/bytes.h"
+#include "support/cent.h"
 #include "support/laid_out_records.h"
 #include "support/results.h"
 
 namespace vorbano {
 namespace {
 
+using test::cent;
+using test::pathOf;
 using test::Sheet;
 using test::toHex;
-
-constexpr Currency cent(int cents) { return Currency::fromCents(cents); }
 
 /// No two lines hold the same; the difference is negative.
 std::string rendiBytes() {
@@ -56,10 +58,8 @@ RendiRecord rendi() {
 std::string divStBytes() { return Sheet(16).amountsAt(0, {34561, 53093}).bytes(); }
 std::string tprovBytes() { return Sheet(16).amountsAt(0, {250075, 6180}).bytes(); }
 
-std::string pathOf(std::string_view name) { return "Elezioni/Provinciali/09-06-24/" + std::string(name); }
-
 template <class Record>
-std::string written(std::string_view name, const Record& record) {
+std::string storedAlone(std::string_view name, const Record& record) {
     MemoryFileSystem files;
     if (!test::lay(files, pathOf(name), "")) return "the folder could not be laid";
     if (!storeOnlyRecord(files, pathOf(name), record)) return "the record could not be written";
@@ -67,7 +67,7 @@ std::string written(std::string_view name, const Record& record) {
 }
 
 template <class Record>
-Record readFrom(std::string_view name, std::string_view content) {
+Record readAlone(std::string_view name, std::string_view content) {
     MemoryFileSystem files;
     EXPECT_TRUE(test::lay(files, pathOf(name), content));
     const auto record = onlyRecord<Record>(files, pathOf(name));
@@ -75,10 +75,12 @@ Record readFrom(std::string_view name, std::string_view content) {
     return record && *record ? **record : Record{};
 }
 
-TEST(RendiFile, IsWrittenByteByByteAsLaidOut) { EXPECT_EQ(toHex(written(rendiFile, rendi())), toHex(rendiBytes())); }
+TEST(RendiFile, IsWrittenByteByByteAsLaidOut) {
+    EXPECT_EQ(toHex(storedAlone(rendiFile, rendi())), toHex(rendiBytes()));
+}
 
 TEST(RendiFile, LaidOutByHandIsRead) {
-    const auto record = readFrom<RendiRecord>(rendiFile, rendiBytes());
+    const auto record = readAlone<RendiRecord>(rendiFile, rendiBytes());
     const std::vector<Currency> lines = {record.Onorari,    record.Straordinario, record.Speciali,   record.Carico,
                                          record.Indennita,  record.TotStato,      record.Stampanti,  record.Trasporti,
                                          record.Disciplina, record.Assunzioni,    record.Postali,    record.Missioni,
@@ -106,17 +108,17 @@ TEST(RendiFile, IsKnownByTheFieldsOfTheScreen) {
 }
 
 TEST(DivStFile, IsTwoAmounts) {
-    EXPECT_EQ(toHex(written(divStFile, DivStRecord{.TotStato = cent(34561), .TotComune = cent(53093)})),
+    EXPECT_EQ(toHex(storedAlone(divStFile, DivStRecord{.TotStato = cent(34561), .TotComune = cent(53093)})),
               toHex(divStBytes()));
-    const auto record = readFrom<DivStRecord>(divStFile, divStBytes());
+    const auto record = readAlone<DivStRecord>(divStFile, divStBytes());
     EXPECT_EQ(record.TotStato, cent(34561));
     EXPECT_EQ(record.TotComune, cent(53093));
 }
 
 TEST(TprovFile, IsTwoAmounts) {
-    EXPECT_EQ(toHex(written(tprovFile, TprovRecord{.TotProv = cent(250075), .MagMis = cent(6180)})),
+    EXPECT_EQ(toHex(storedAlone(tprovFile, TprovRecord{.TotProv = cent(250075), .MagMis = cent(6180)})),
               toHex(tprovBytes()));
-    const auto record = readFrom<TprovRecord>(tprovFile, tprovBytes());
+    const auto record = readAlone<TprovRecord>(tprovFile, tprovBytes());
     EXPECT_EQ(record.TotProv, cent(250075));
     EXPECT_EQ(record.MagMis, cent(6180));
 }

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "election_files.h"
 #include "storage/memory_file_system.h"
 #include "storage/record_file.h"
 #include "support/bytes.h"
@@ -17,10 +18,7 @@ namespace vorbano::test {
 namespace {
 
 const Election europee{"Europee", "09-06-24"};
-constexpr std::string_view folder = "Elezioni/Europee/09-06-24/";
 constexpr std::string_view acted = "21-06-24";
-
-std::string pathOf(std::string_view file) { return std::string(folder) + std::string(file); }
 
 /// What stands behind the place of a person, from `at`: the fee is 119,41.
 void layPerson(Sheet& sheet, std::size_t at) {

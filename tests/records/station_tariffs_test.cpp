@@ -8,6 +8,7 @@
 #include "records/station_tariff_records.h"
 #include "storage/memory_file_system.h"
 #include "support/bytes.h"
+#include "support/cent.h"
 #include "support/results.h"
 
 namespace vorbano::test {
@@ -23,7 +24,6 @@ std::string normalRow(std::string_view type, int first, int second, int third) {
 std::string specialRow(std::string_view type, int first, int second) {
     return padded(type, 20) + amount(0, first) + amount(0, second);
 }
-std::optional<Currency> cent(int cents) { return Currency::fromCents(cents); }
 const std::optional<Currency> nothing;
 
 class StationTariffs : public ::testing::Test {

@@ -6,13 +6,12 @@
 #include "records/tariff_records.h"
 #include "storage/memory_file_system.h"
 #include "storage/only_record.h"
+#include "support/cent.h"
 #include "support/expected_tariffs.h"
 #include "support/results.h"
 
 namespace vorbano::test {
 namespace {
-
-Currency cent(int cents) { return Currency::fromCents(cents); }
 
 class TariffFiles : public ::testing::Test {
   protected:

@@ -22,15 +22,15 @@ const Election politiche{"Politiche_Comunali", "13-04-08"};
 const Election regionali{"Regionali", "28-03-10"};
 
 using Print = std::function<Result<>(const Workplace&, const Election&)>;
-struct Document {
+struct AdjustmentDocument {
     const char* name;
     const char* command;
     int appends;  ///< rows of all tables
     Print print;
 };
-void PrintTo(const Document& one, std::ostream* out) { *out << one.name; }
+void PrintTo(const AdjustmentDocument& one, std::ostream* out) { *out << one.name; }
 
-class ConguaglioFaults : public ReportsDesk, public testing::WithParamInterface<Document> {
+class ConguaglioFaults : public ReportsDesk, public testing::WithParamInterface<AdjustmentDocument> {
   protected:
     void SetUp() override {
         for (const Election& election : {politiche, regionali}) {
@@ -97,14 +97,16 @@ TEST_P(ConguaglioFaults, AMissingFolderIsAFailure) {
 INSTANTIATE_TEST_SUITE_P(
     All, ConguaglioFaults,
     testing::Values(
-        // Three employees and four companions; a headingOf2008 and two documents; the statement and a headingOf2008.
-        Document{"Liquidazione", "frmTutteStampe.cmdConguaglio", 7,
-                 [](const Workplace& on, const Election& of) { return printConguaglio(on, of, headingOf2008); }},
-        Document{
+        // Three employees and four companions; a heading and two documents; the statement and a heading.
+        AdjustmentDocument{
+            "Liquidazione", "frmTutteStampe.cmdConguaglio", 7,
+            [](const Workplace& on, const Election& of) { return printConguaglio(on, of, headingOf2008); }},
+        AdjustmentDocument{
             "Versamenti", "frmTutteStampe.cmdCongA", 3,
             [](const Workplace& on, const Election& of) { return printContributiConguaglio(on, of, headingOf2008); }},
-        Document{"Rendiconto", "frmTutteStampe.cmdCongRend", 2,
-                 [](const Workplace& on, const Election& of) { return printCongRend(on, of, headingOf2008); }}),
+        AdjustmentDocument{
+            "Rendiconto", "frmTutteStampe.cmdCongRend", 2,
+            [](const Workplace& on, const Election& of) { return printCongRend(on, of, headingOf2008); }}),
     [](const auto& document) { return std::string(document.param.name); });
 
 }  // namespace

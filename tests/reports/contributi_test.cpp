@@ -35,8 +35,8 @@ std::string documents(const std::array<int, 8>& cents) {
            document("Irpef", form, cents[5], 0) + document("Inail", "", cents[6], 0) +
            document("Inps", form, cents[7], 0);
 }
-const std::string before = documents({1, 2, 3, 4, 5, 6, 7, 8});
-const std::string after = documents({1800, 1800, 2100, 600, 900, 11111, 2222, 8});
+const std::string documentsBefore = documents({1, 2, 3, 4, 5, 6, 7, 8});
+const std::string documentsAfter = documents({1800, 1800, 2100, 600, 900, 11111, 2222, 8});
 
 const Heading headingOf2013{
     .Elezione = "Europee", .Data = "del 26 Maggio 2013", .Databall = "{Vorbano 3.9 edizione 2014}"};
@@ -45,7 +45,7 @@ class Contributi : public StampeDesk {
   protected:
     void layAll(const std::vector<LaidEmployee>& employees = threeEmployees()) {
         ASSERT_TRUE(layOvertime(files, "Europee", "26-05-13", 4, 0, employees));
-        ASSERT_TRUE(lay(files, path, before));
+        ASSERT_TRUE(lay(files, path, documentsBefore));
     }
 };
 
@@ -77,7 +77,7 @@ TEST_F(Contributi, SetsEveryDocumentToWhatIsDueButInps) {
     open();
     search("Europee", "26-05-13");
     click(screen().cmdContributi);
-    EXPECT_EQ(toHex(contentOf(files, path)), toHex(after));
+    EXPECT_EQ(toHex(contentOf(files, path)), toHex(documentsAfter));
     EXPECT_EQ(contentOf(files, "Elezioni/Europee/26-05-13/Reversum.vbn"), noFile);
 }
 
@@ -163,19 +163,19 @@ TEST_F(Contributi, WithAllPeriodsLeftOutIsToldAndNotShown) {
     desktop.box("Errore!", "Data di Elezione inesistente!", ScriptedDesktop::Answer::ok);
     click(screen().cmdContributi);
     EXPECT_THAT(printing.jobs, IsEmpty());
-    EXPECT_EQ(toHex(contentOf(files, path)), toHex(after)) << "the documents follow all the same";
+    EXPECT_EQ(toHex(contentOf(files, path)), toHex(documentsAfter)) << "the documents follow all the same";
     expectEmptyTables();
 }
 
 TEST_F(Contributi, WithoutEmployeesNothingIsSetToNothing) {
     ASSERT_TRUE(layElection("Europee", "26-05-13"));
-    ASSERT_TRUE(lay(files, path, before));
+    ASSERT_TRUE(lay(files, path, documentsBefore));
     open();
     search("Europee", "26-05-13");
     desktop.box("Errore!", "Data di Elezione inesistente!", ScriptedDesktop::Answer::ok);
     click(screen().cmdContributi);
     EXPECT_THAT(printing.jobs, IsEmpty());
-    EXPECT_EQ(toHex(contentOf(files, path)), toHex(before));
+    EXPECT_EQ(toHex(contentOf(files, path)), toHex(documentsBefore));
 }
 
 TEST_F(Contributi, FaultsOfTheDiskLeaveTheDocumentsOldOrNew) {
@@ -191,10 +191,10 @@ TEST_F(Contributi, FaultsOfTheDiskLeaveTheDocumentsOldOrNew) {
             EXPECT_FALSE(print().ok());
             failing.failOnce(0);
             if (fault == Fault::forGood) files.cutPower();
-            EXPECT_THAT(contentOf(files, path), AnyOf(before, after));
+            EXPECT_THAT(contentOf(files, path), AnyOf(documentsBefore, documentsAfter));
             expectEmptyTables();
             EXPECT_THAT(print(), Succeeds());
-            EXPECT_EQ(toHex(contentOf(files, path)), toHex(after));
+            EXPECT_EQ(toHex(contentOf(files, path)), toHex(documentsAfter));
         });
     }
 }

@@ -26,16 +26,16 @@ class Determina : public StampeDesk {
     bool inTotals(std::string_view field) { return seen.cell("Tabella4", 1, field) != "(not there)"; }
 };
 
-const std::string title = "LIQUIDAZIONE PER DETERMINAZIONE";
+const std::string determinaTitle = "LIQUIDAZIONE PER DETERMINAZIONE";
 
 TEST_F(Determina, OfAllPeriodsGoesByTheirNumber) {
     print("Europee_Comunali", "26-05-13", 5);
-    expectJob("strvideop.rpt", title);
+    expectJob("strvideop.rpt", determinaTitle);
 }
 
 TEST_F(Determina, OfAllPeriodsOfAnElectionWithFour) {
     print("Referendum", "09-06-13", 5);
-    expectJob("strvideoq.rpt", title);
+    expectJob("strvideoq.rpt", determinaTitle);
     EXPECT_EQ(seen.cell("Tabella3", 1, "P4Df"), "4");
     EXPECT_EQ(seen.cell("Tabella3", 1, "PentiumAl"), "00/00/00");
     EXPECT_EQ(seen.cell("Tabella3", 1, "tot5"), "0");
@@ -43,12 +43,12 @@ TEST_F(Determina, OfAllPeriodsOfAnElectionWithFour) {
 
 TEST_F(Determina, OfAllPeriodsOfAnElectionWithThree) {
     print("Politiche", "24-02-13", 3);
-    expectJob("strvideo.rpt", title);
+    expectJob("strvideo.rpt", determinaTitle);
 }
 
 TEST_F(Determina, From2014OnHasThreePeriodsThoughMoreAreOnFile) {
     print("Europee_Comunali", "25-05-14", 5);
-    expectJob("strvideo.rpt", title);
+    expectJob("strvideo.rpt", determinaTitle);
     for (const std::string_view field : {"QuartusDal", "QuartusAl", "PentiumDal", "PentiumAl"}) {
         EXPECT_EQ(seen.cell("Tabella3", 1, field), "00/00/00");
     }
@@ -74,14 +74,14 @@ TEST_F(Determina, OfOnePeriodHasALayoutAndATitleOfItsOwn) {
     }
     tick(screen().Check5);
     click(screen().cmdDetermina);
-    expectJob("strvideop.rpt", title);
+    expectJob("strvideop.rpt", determinaTitle);
 }
 
 TEST_F(Determina, WithNoBoxTickedIsOfAllPeriods) {
     find("Politiche", "24-02-13", 3);
     tick(screen().Check5, false);
     click(screen().cmdDetermina);
-    expectJob("strvideo.rpt", title);
+    expectJob("strvideo.rpt", determinaTitle);
 }
 
 TEST_F(Determina, InailGoesWithTheFirstTwoPeriodsOnly) {
@@ -147,7 +147,7 @@ TEST_F(Determina, EmployeeWithoutCounterpartHasEmptyFields) {
     ASSERT_TRUE(lay(files, folder + "Quartum.vbn", latePeriodBytes(threeEmployees()[0], 4, 3)));
     tick(screen().Check9);
     click(screen().cmdDetermina);
-    expectJob("strvideo4.rpt", title + " 4° PERIODO");
+    expectJob("strvideo4.rpt", determinaTitle + " 4° PERIODO");
     EXPECT_EQ(seen.cell("Tabella3", 1, "QuartusDal"), "01-06-13");
     EXPECT_EQ(seen.cell("Tabella3", 2, "QuartusDal"), "");
     EXPECT_EQ(seen.cell("Tabella3", 2, "P4Df"), "0");

@@ -86,7 +86,7 @@ TEST(BodyDivision, IsHalvesButForOneReferendum) {
     }
 }
 
-Pay payAt(std::int64_t day, std::int64_t fest, std::int64_t night) {
+Pay payForCharges(std::int64_t day, std::int64_t fest, std::int64_t night) {
     Pay pay{};
     pay.rates = {Currency::fromCents(day), Currency::fromCents(fest), Currency::fromCents(night)};
     pay.AliCpStato = Currency::fromCents(2380);
@@ -104,18 +104,18 @@ PeriodBlock performed(int day, int fest, int night) {
 
 TEST(PeriodCharges, AreOnThePerformedHoursOfThePeriodAlone) {
     // 10 h x 12,34 = 123,40; 3 h x 15,55 = 46,65; together 170,05; x 23,80 % = 40,4719; x 8,50 % = 14,45425
-    const PeriodCharges charges = chargesOn(performed(10, 3, 0), payAt(1234, 1555, 0));
+    const PeriodCharges charges = chargesOn(performed(10, 3, 0), payForCharges(1234, 1555, 0));
     EXPECT_EQ(format(charges.CpStato, Mask::amount), "40,47");
     EXPECT_EQ(format(charges.Irap, Mask::amount), "14,45");
 }
 
 TEST(PeriodCharges, AreHeldToFourDecimalsAndThenToCents) {
     // 20 h x 13,00 + 10 h x 14,72 + 4 h x 16,43 = 472,92; x 23,80 % = 112,55496, held as 112,5550, so 112,56
-    EXPECT_EQ(format(chargesOn(performed(20, 10, 4), payAt(1300, 1472, 1643)).CpStato, Mask::amount), "112,56");
+    EXPECT_EQ(format(chargesOn(performed(20, 10, 4), payForCharges(1300, 1472, 1643)).CpStato, Mask::amount), "112,56");
 }
 
 TEST(PeriodCharges, OfNoHoursAreNothing) {
-    const PeriodCharges charges = chargesOn(performed(0, 0, 0), payAt(1234, 1555, 1790));
+    const PeriodCharges charges = chargesOn(performed(0, 0, 0), payForCharges(1234, 1555, 1790));
     EXPECT_EQ(charges.CpStato, Currency{});
     EXPECT_EQ(charges.Irap, Currency{});
 }

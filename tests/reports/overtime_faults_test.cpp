@@ -9,17 +9,17 @@ namespace vorbano::test {
 namespace {
 
 /// One of the three documents made from the overtime: its command, its layout, its procedure.
-struct Document {
+struct OvertimeDocument {
     const char* name;
     Button frmTutteStampe::*command;
     const char* layout;
     Result<> (*print)(const Workplace& desk);
 };
 
-const Election election{"Europee_Comunali", "26-05-13"};
+const Election electionOf2013{"Europee_Comunali", "26-05-13"};
 constexpr LatePeriods allFive{true, true};
 
-class OvertimeFaults : public ReportsDesk, public testing::WithParamInterface<Document> {
+class OvertimeFaults : public ReportsDesk, public testing::WithParamInterface<OvertimeDocument> {
   protected:
     void SetUp() override { ASSERT_TRUE(layOvertime(files, "Europee_Comunali", "26-05-13", 5)); }
     /// Opens the screen on a desk, searches for the election and asks for the document.
@@ -95,13 +95,14 @@ TEST_P(OvertimeFaults, DiskThatFailsAtAnyPointLeavesRecordsAndTablesAsTheyWere) 
 
 INSTANTIATE_TEST_SUITE_P(
     Documents, OvertimeFaults,
-    testing::Values(Document{"Impegno", &frmTutteStampe::cmdImpegno, "impstrp.rpt",
-                             [](const Workplace& desk) { return printImpegno(desk, election, allFive, {}); }},
-                    Document{
-                        "Determina", &frmTutteStampe::cmdDetermina, "strvideop.rpt",
-                        [](const Workplace& desk) { return printDetermina(desk, election, allFive, allPeriods, {}); }},
-                    Document{"LRendiconto", &frmTutteStampe::cmdLRendiconto, "liqstrqec.rpt",
-                             [](const Workplace& desk) { return printLRendiconto(desk, election, allFive, {}); }}),
+    testing::Values(
+        OvertimeDocument{"Impegno", &frmTutteStampe::cmdImpegno, "impstrp.rpt",
+                         [](const Workplace& desk) { return printImpegno(desk, electionOf2013, allFive, {}); }},
+        OvertimeDocument{
+            "Determina", &frmTutteStampe::cmdDetermina, "strvideop.rpt",
+            [](const Workplace& desk) { return printDetermina(desk, electionOf2013, allFive, allPeriods, {}); }},
+        OvertimeDocument{"LRendiconto", &frmTutteStampe::cmdLRendiconto, "liqstrqec.rpt",
+                         [](const Workplace& desk) { return printLRendiconto(desk, electionOf2013, allFive, {}); }}),
     [](const auto& one) { return std::string(one.param.name); });
 
 }  // namespace

@@ -5,11 +5,11 @@
 namespace vorbano::test {
 namespace {
 
-const Election election{"Provinciali_Comunali", "09-06-24"};
+const Election electionWithStations{"Provinciali_Comunali", "09-06-24"};
 constexpr StationChoice normalStations{StationKind::normal, Round::first};
 
 /// One of the three documents of the stations: its procedure, its rows, and the first table that it fills.
-struct Document {
+struct StationDocument {
     const char* name;
     Result<> (*print)(const Workplace& desk);
     int rows;
@@ -18,16 +18,16 @@ struct Document {
 };
 
 Result<> printSecond(const Workplace& desk) {
-    const auto stations = readStations(desk.files, election, normalStations);
+    const auto stations = readStations(desk.files, electionWithStations, normalStations);
     if (!stations) return stations.error();
-    return printStation(desk, election, normalStations, {}, *stations, 2);
+    return printStation(desk, electionWithStations, normalStations, {}, *stations, 2);
 }
 
-class StationFaults : public ReportsDesk, public testing::WithParamInterface<Document> {
+class StationFaults : public ReportsDesk, public testing::WithParamInterface<StationDocument> {
   protected:
     void SetUp() override {
-        ASSERT_TRUE(layStations(files, election.type));
-        ASSERT_TRUE(lay(files, "Params/Tarmag.dat", quotaBytes(election.type, 3500, 2525)));
+        ASSERT_TRUE(layStations(files, electionWithStations.type));
+        ASSERT_TRUE(lay(files, "Params/Tarmag.dat", quotaBytes(electionWithStations.type, 3500, 2525)));
     }
 };
 
@@ -60,7 +60,7 @@ TEST_P(StationFaults, TheFillingIsOneGo) {
 }
 
 TEST_P(StationFaults, DiskThatFailsAtAnyPointLeavesRecordsAndTablesAsTheyWere) {
-    const std::string before = allStationBytes(files, election.type);
+    const std::string before = allStationBytes(files, electionWithStations.type);
     FailingFileSystem failing(files);
     const Workplace onBadDisk{failing, desktop, staging, printing, screens, places};
     const int operations = operationsOf(failing, [&] { ASSERT_THAT(GetParam().print(onBadDisk), Succeeds()); });
@@ -73,21 +73,23 @@ TEST_P(StationFaults, DiskThatFailsAtAnyPointLeavesRecordsAndTablesAsTheyWere) {
         printing.jobs.clear();
         expectEmptyTables();
     });
-    EXPECT_EQ(allStationBytes(files, election.type), before);
+    EXPECT_EQ(allStationBytes(files, electionWithStations.type), before);
 }
 
 INSTANTIATE_TEST_SUITE_P(Documents, StationFaults,
-                         testing::Values(Document{"Summary",
-                                                  [](const Workplace& desk) {
-                                                      return printStationSummary(desk, election, normalStations, {});
-                                                  },
-                                                  3, "Tabella8", "riepsegprocom.rpt"},
-                                         Document{"One", printSecond, 4, "Tabella7", "conaltri.rpt"},
-                                         Document{"All",
-                                                  [](const Workplace& desk) {
-                                                      return printAllStations(desk, election, normalStations, {});
-                                                  },
-                                                  11, "Tabella7", "seggi.rpt"}),
+                         testing::Values(StationDocument{"Summary",
+                                                         [](const Workplace& desk) {
+                                                             return printStationSummary(desk, electionWithStations,
+                                                                                        normalStations, {});
+                                                         },
+                                                         3, "Tabella8", "riepsegprocom.rpt"},
+                                         StationDocument{"One", printSecond, 4, "Tabella7", "conaltri.rpt"},
+                                         StationDocument{"All",
+                                                         [](const Workplace& desk) {
+                                                             return printAllStations(desk, electionWithStations,
+                                                                                     normalStations, {});
+                                                         },
+                                                         11, "Tabella7", "seggi.rpt"}),
                          [](const auto& one) { return std::string(one.param.name); });
 
 TEST_F(StampeSeggiDesk, WhatFailsIsToldOnTheScreen) {

@@ -8,18 +8,15 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-constexpr const char* pandemic = "Spese straordinarie per fronteggiare gli effetti della pandemia da Covid 19";
-constexpr const char* travel = "Spese di viaggio presidenti di seggio";
 constexpr const char* designed19 = "Compenso lavoro straordinario";
 constexpr const char* designed5 = "+IRAP ed INAIL a totale carico:";
 constexpr const char* set3 = "Rimborso spese ai presidenti di seggio";
-constexpr const char* designed3 = "Rimborso spese  ai presidenti di seggio";
 constexpr const char* thirds = "L'importo totale sarà ripartito 1/3 Regione  e  2/3 Stato";
 constexpr const char* halves = "L'importo totale sarà ripartito 1/2 Comune  e  1/2 Stato";
 constexpr const char* hidden = "(hidden)";
 
 /// One type of election, as the office tells it.
-struct Row {
+struct EntryRow {
     const char* type;
     const char* frame19;  ///< before a date is chosen
     const char* label5;
@@ -35,12 +32,12 @@ struct Row {
     const char* focus;      ///< at the opening
     bool provincia;         ///< parts of Provincia and Comune
 };
-void PrintTo(const Row& row, std::ostream* out) { *out << row.type; }
+void PrintTo(const EntryRow& row, std::ostream* out) { *out << row.type; }
 
 constexpr const char* ofStato = "Stampati non forniti dallo Stato";
 constexpr const char* ofProvincia = "Stampati non forniti dalla Provincia";
 
-const Row rows[] = {
+const EntryRow entryRows[] = {
     {"Politiche", pandemic, hidden, false, set3, "Spese postali", hidden, hidden, false, false, ofStato, "",
      "txtStampanti", false},
     {"Politiche_Regionali", designed19, designed5, true, designed3, "Spese spedizione cartoline",
@@ -65,9 +62,9 @@ const Row rows[] = {
      false, ofStato, "", "txtStampanti", false},
 };
 
-class EntryOfType : public StatementDesk<frmInsRend>, public ::testing::WithParamInterface<Row> {
+class EntryOfType : public StatementDesk<frmInsRend>, public ::testing::WithParamInterface<EntryRow> {
   protected:
-    const Row& row() { return GetParam(); }
+    const EntryRow& row() { return GetParam(); }
     std::string seen(std::string_view name) { return visible(name) ? text(name) : hidden; }
     void expectCaptions() {
         EXPECT_EQ(seen("Label5"), row().label5);
@@ -193,7 +190,7 @@ TEST_P(EntryOfType, GivenUpIsAsAtTheStart) {
     EXPECT_EQ(stored(row().type, "DivSt.vbn"), missing());
 }
 
-INSTANTIATE_TEST_SUITE_P(All, EntryOfType, ::testing::ValuesIn(rows),
+INSTANTIATE_TEST_SUITE_P(All, EntryOfType, ::testing::ValuesIn(entryRows),
                          [](const auto& one) { return std::string(one.param.type); });
 
 // Options.

@@ -5,10 +5,7 @@
 namespace vorbano::test {
 namespace {
 
-constexpr const char* pandemic = "Spese straordinarie per fronteggiare gli effetti della pandemia da Covid 19";
-constexpr const char* travel = "Spese di viaggio presidenti di seggio";
 constexpr const char* phone = "Spese collegamenti telefonici";
-constexpr const char* designed3 = "Rimborso spese  ai presidenti di seggio";
 
 /// 10,01 to 10,19 in the order of the file, of no sum at all.
 std::string savedRendi() {
@@ -33,7 +30,7 @@ class Correcting : public Correction {
     }
 };
 
-struct Row {
+struct CorrectionRow {
     const char* type;
     const char* frame3;
     const char* assunzioni;  ///< what the two screen fields of the rotated places show
@@ -46,9 +43,9 @@ struct Row {
     const char* magMis;
     const char* cartRegione;
 };
-void PrintTo(const Row& row, std::ostream* out) { *out << row.type; }
+void PrintTo(const CorrectionRow& row, std::ostream* out) { *out << row.type; }
 
-const Row rows[] = {
+const CorrectionRow correctionRows[] = {
     {"Europee", phone, "10,11", "10,16", "10,10", "0,00", "0,00", "0,00", "0,00", "0,00", "0,00"},
     {"Europee_Comunali", phone, "10,11", "10,16", "10,10", "0,00", "10,06", "10,17", "0,00", "0,00", "10,18"},
     {"Referendum_Comunali", phone, "10,11", "10,16", "10,10", "0,00", "10,06", "10,17", "0,00", "0,00", "10,18"},
@@ -62,9 +59,9 @@ const Row rows[] = {
     {"Politiche_Regionali", designed3, "10,11", "10,16", "10,10", "10,17", "20,03", "20,04", "20,01", "20,02", "10,18"},
 };
 
-class CorrectionOfType : public Correcting, public ::testing::WithParamInterface<Row> {
+class CorrectionOfType : public Correcting, public ::testing::WithParamInterface<CorrectionRow> {
   protected:
-    const Row& row() { return GetParam(); }
+    const CorrectionRow& row() { return GetParam(); }
     void expectLocked() {
         for (const char* name : typedLines) EXPECT_FALSE(enabled(name)) << name;
         for (const char* name :
@@ -147,7 +144,7 @@ TEST_P(CorrectionOfType, StoresOverTheRecord) {
     EXPECT_EQ(stored(row().type, "DivSt.vbn"), toHex(divSt)) << "written where the parts are typed";
 }
 
-INSTANTIATE_TEST_SUITE_P(All, CorrectionOfType, ::testing::ValuesIn(rows),
+INSTANTIATE_TEST_SUITE_P(All, CorrectionOfType, ::testing::ValuesIn(correctionRows),
                          [](const auto& one) { return std::string(one.param.type); });
 
 TEST_F(Correcting, ShowsWhatWasSavedWhenTheFeesChange) {

@@ -28,6 +28,11 @@
 
 namespace vorbano::test {
 
+// What both screens show.
+inline constexpr const char* pandemic = "Spese straordinarie per fronteggiare gli effetti della pandemia da Covid 19";
+inline constexpr const char* travel = "Spese di viaggio presidenti di seggio";
+inline constexpr const char* designed3 = "Rimborso spese  ai presidenti di seggio";
+
 [[nodiscard]] inline std::string statementPath(std::string_view type, std::string_view date, std::string_view name) {
     return "Elezioni/" + std::string(type) + "/" + std::string(date) + "/" + std::string(name);
 }

@@ -3,11 +3,10 @@
 #include "statement/statement_record.h"
 
 #include "statement_desk.h"
+#include "support/cent.h"
 
 namespace vorbano::test {
 namespace {
-
-constexpr Currency cent(std::int64_t cents) { return Currency::fromCents(cents); }
 
 /// 1,01 to 1,22 in the order of the lines on the screen.
 StatementAmounts onScreen() {

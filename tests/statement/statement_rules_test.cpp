@@ -3,13 +3,12 @@
 #include "overtime/rendi_kontrol.h"
 #include "statement/statement_sources.h"
 #include "statement_desk.h"
+#include "support/cent.h"
 
 namespace vorbano::test {
 namespace {
 
 const Election comunali{"Comunali", someDay};
-
-constexpr Currency cent(std::int64_t cents) { return Currency::fromCents(cents); }
 
 class StatementSources : public ::testing::Test {
   protected:

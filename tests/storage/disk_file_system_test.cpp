@@ -2,12 +2,11 @@
 
 #include <gmock/gmock.h>
 
-#include <cstdlib>
-#include <fstream>
-#include <optional>
 #include <string>
 
+#include "support/by_hand.h"
 #include "support/bytes.h"
+#include "support/environment.h"
 #include "support/results.h"
 #include "support/temporary_folder.h"
 
@@ -18,41 +17,10 @@ namespace fs = std::filesystem;
 using test::contentOf;
 using test::Fails;
 using test::lay;
+using test::readByHand;
 using test::Succeeds;
-
-/// Sets a variable of the environment and puts it back.
-class Variable {
-  public:
-    Variable(const char* name, const char* value) : name_(name) {
-        if (const char* before = std::getenv(name)) before_ = before;
-        set(value);
-    }
-    Variable(const Variable&) = delete;
-    Variable& operator=(const Variable&) = delete;
-    ~Variable() { set(before_ ? before_->c_str() : nullptr); }
-
-  private:
-    void set(const char* value) {
-        if (value == nullptr) {
-            ::unsetenv(name_);
-        } else {
-            ::setenv(name_, value, 1);
-        }
-    }
-    const char* name_;
-    std::optional<std::string> before_;
-};
-
-void writeByHand(const fs::path& path, std::string_view content) {
-    fs::create_directories(path.parent_path());
-    std::ofstream(path, std::ios::binary) << content;
-}
-
-std::string readByHand(const fs::path& path) {
-    std::string content(fs::file_size(path), '\0');
-    std::ifstream(path, std::ios::binary).read(content.data(), static_cast<std::streamsize>(content.size()));
-    return content;
-}
+using test::Variable;
+using test::writeByHand;
 
 TEST(Disk, TheFirstStartMakesTheRootAndTheSecondFindsIt) {
     const test::TemporaryFolder folder;
@@ -90,15 +58,6 @@ TEST(Disk, AnInstallationWithOtherSpellingsIsFoundAsItStands) {
     EXPECT_EQ(readByHand(folder.path() / "ELEZIONI" / "europee" / "09-06-24" / "MEIRIN.VBN"), "others");
 }
 
-TEST(Disk, TheExactNameGoesBeforeOneThatDiffersInCase) {
-    const test::TemporaryFolder folder;
-    writeByHand(folder.path() / "MEIRIN.VBN", "capitals");
-    writeByHand(folder.path() / "Meirin.vbn", "exact");
-    DiskFileSystem files(folder.path());
-    EXPECT_EQ(contentOf(files, "Meirin.vbn"), "exact");
-    EXPECT_EQ(contentOf(files, "MEIRIN.VBN"), "capitals");
-}
-
 TEST(Disk, AFileIsWrittenWithNothingBesideItsBytes) {
     const test::TemporaryFolder folder;
     DiskFileSystem files(folder.path());
@@ -122,19 +81,9 @@ TEST(InstallationRoot, IsWhatTheEnvironmentNames) {
     EXPECT_EQ(installationRoot(), fs::path("/srv/ufficio/Vorbanet"));
 }
 
-TEST(InstallationRoot, IsElseInTheDataFolderOfTheUser) {
-    const Variable root("VORBANET_ROOT", nullptr);
-    const Variable home("HOME", "/home/anna");
-    {
-        const Variable data("XDG_DATA_HOME", "/data/anna");
-        EXPECT_EQ(installationRoot(), fs::path("/data/anna/Vorbanet"));
-    }
-    {
-        const Variable data("XDG_DATA_HOME", "data");
-        EXPECT_EQ(installationRoot(), fs::path("/home/anna/.local/share/Vorbanet")) << "a relative one does not count";
-    }
-    const Variable data("XDG_DATA_HOME", nullptr);
-    EXPECT_EQ(installationRoot(), fs::path("/home/anna/.local/share/Vorbanet"));
+TEST(InstallationRoot, MayHaveAccentsWhateverTheNarrowTextsOfTheSystemAre) {
+    const Variable root("VORBANET_ROOT", "/srv/Forlì/Città œ €");
+    EXPECT_EQ(installationRoot(), fs::path(u8"/srv/Forlì/Città œ €"));
 }
 
 }  // namespace

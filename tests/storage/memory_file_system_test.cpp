@@ -10,20 +10,19 @@
 namespace vorbano {
 namespace {
 
+using test::asBytes;
 using test::contentOf;
 using test::Fails;
 using test::lay;
 using test::noFile;
 using test::Succeeds;
 
-std::span<const std::byte> bytes(std::string_view text) { return std::as_bytes(std::span(text)); }
-
 TEST(PowerCut, TakesWhatWasNotFlushed) {
     MemoryFileSystem files;
     ASSERT_TRUE(lay(files, "x", "old"));
     auto file = files.open("x");
     ASSERT_THAT(file, Succeeds());
-    ASSERT_THAT((*file)->write(0, bytes("newer")), Succeeds());
+    ASSERT_THAT((*file)->write(0, asBytes("newer")), Succeeds());
     EXPECT_EQ(contentOf(files, "x"), "newer");
     files.cutPower();
     EXPECT_EQ(contentOf(files, "x"), "old");
@@ -33,9 +32,9 @@ TEST(PowerCut, LeavesWhatWasFlushed) {
     MemoryFileSystem files;
     auto file = files.open("x");
     ASSERT_THAT(file, Succeeds());
-    ASSERT_THAT((*file)->write(0, bytes("kept")), Succeeds());
+    ASSERT_THAT((*file)->write(0, asBytes("kept")), Succeeds());
     ASSERT_THAT((*file)->flush(), Succeeds());
-    ASSERT_THAT((*file)->write(4, bytes(" lost")), Succeeds());
+    ASSERT_THAT((*file)->write(4, asBytes(" lost")), Succeeds());
     files.cutPower();
     EXPECT_EQ(contentOf(files, "x"), "kept");
 }
@@ -44,7 +43,7 @@ TEST(PowerCut, LeavesANewFileThatWasNotFlushedEmpty) {
     MemoryFileSystem files;
     auto file = files.open("x");
     ASSERT_THAT(file, Succeeds());
-    ASSERT_THAT((*file)->write(0, bytes("lost")), Succeeds());
+    ASSERT_THAT((*file)->write(0, asBytes("lost")), Succeeds());
     files.cutPower();
     EXPECT_EQ(contentOf(files, "x"), "");
 }
@@ -55,7 +54,7 @@ TEST(PowerCut, LeavesAReplacementWithTheFlushedContentOnly) {
     {
         auto file = files.open("companion");
         ASSERT_THAT(file, Succeeds());
-        ASSERT_THAT((*file)->write(0, bytes("never flushed")), Succeeds());
+        ASSERT_THAT((*file)->write(0, asBytes("never flushed")), Succeeds());
     }
     ASSERT_THAT(files.replace("companion", "x"), Succeeds());
     files.cutPower();
@@ -79,7 +78,7 @@ TEST_F(ReadOnly, AFileIsReadAndNotChanged) {
     ASSERT_THAT(before, Succeeds());
     files.makeReadOnly("params/ente.dat");
     EXPECT_THAT(files.open("Params/Ente.dat"), Fails(Failure::refused));
-    EXPECT_THAT((*before)->write(0, bytes("x")), Fails(Failure::refused));
+    EXPECT_THAT((*before)->write(0, asBytes("x")), Fails(Failure::refused));
     EXPECT_THAT(files.remove("Params/Ente.dat"), Fails(Failure::refused));
     EXPECT_THAT(files.replace("free", "Params/Ente.dat"), Fails(Failure::refused));
     EXPECT_THAT(files.replace("Params/Ente.dat", "free"), Fails(Failure::refused));

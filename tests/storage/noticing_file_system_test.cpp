@@ -10,6 +10,7 @@
 namespace vorbano {
 namespace {
 
+using test::asBytes;
 using test::contentOf;
 using test::Fails;
 using test::lay;
@@ -23,7 +24,6 @@ struct Noticing : ::testing::Test {
     std::vector<std::string> noticed;
     NoticingFileSystem files{
         failing, [this](const Unwritten& one) { noticed.push_back(one.error.subject + (one.isFolder ? "/" : "")); }};
-    static std::span<const std::byte> bytes(std::string_view text) { return std::as_bytes(std::span(text)); }
 };
 
 TEST_F(Noticing, TellsOfWhatAReadOnlyDiskDoesNotTake) {
@@ -41,9 +41,9 @@ TEST_F(Noticing, TellsOfAWriteThatAFullDiskRefuses) {
     auto file = files.open("x");
     ASSERT_THAT(file, Succeeds());
     disk.leaveRoom(2);
-    EXPECT_THAT((*file)->write(0, bytes("ab")), Succeeds());
+    EXPECT_THAT((*file)->write(0, asBytes("ab")), Succeeds());
     EXPECT_THAT(noticed, IsEmpty());
-    EXPECT_THAT((*file)->write(2, bytes("c")), Fails(Failure::diskFull));
+    EXPECT_THAT((*file)->write(2, asBytes("c")), Fails(Failure::diskFull));
     EXPECT_THAT(noticed, ElementsAre("x"));
 }
 
@@ -85,10 +85,12 @@ TEST(NoticingOfChanges, TellsOfWhatWasWrittenReplacedOrRemoved) {
     NoticingFileSystem files(
         disk, [](const Unwritten&) { ADD_FAILURE(); }, [&changes] { ++changes; });
     ASSERT_THAT(files.makeFolder("folder"), Succeeds());
-    auto file = files.open("folder/x");
-    ASSERT_THAT(file, Succeeds());
-    EXPECT_EQ(changes, 0) << "an opening is no change";
-    EXPECT_THAT((*file)->write(0, Noticing::bytes("x")), Succeeds());
+    {
+        auto file = files.open("folder/x");
+        ASSERT_THAT(file, Succeeds());
+        EXPECT_EQ(changes, 0) << "an opening is no change";
+        EXPECT_THAT((*file)->write(0, asBytes("x")), Succeeds());
+    }
     EXPECT_EQ(changes, 1);
     EXPECT_THAT(files.replace("folder/x", "folder/y"), Succeeds());
     EXPECT_EQ(changes, 2);

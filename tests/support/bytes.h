@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -33,6 +34,11 @@ namespace vorbano::test {
         low = !low;
     }
     return low ? "HALF A BYTE: " + std::string(hex) : bytes;
+}
+
+/// A text as what is written to a file.
+[[nodiscard]] inline std::span<const std::byte> asBytes(std::string_view text) {
+    return std::as_bytes(std::span(text));
 }
 
 /// "41 42 20" for "AB ".

@@ -4,6 +4,8 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QSaveFile>
+#include <utility>
+#include <vector>
 
 #include "platform/qt/file_names.h"
 #include "platform/qt/installed_databases.h"
@@ -64,22 +66,38 @@ Result<> layDatabase(const QString& path, const Make& make) {
     return QFile::rename(companion, target) ? Result<>() : failure(Failure::refused, target);
 }
 
-Result<> layPlaces(const QString& root) {
-    const QString database = root + "/Stampe/Comuni.mdb";
-    const QString list = root + "/Params/Comuni.dat";
-    if (QFile::exists(asOnDisk(database)) && QFile::exists(asOnDisk(list))) return {};
-    std::vector<Place> read[2];
-    const QString names[] = {"dati/comuni.tsv", "dati/stati.tsv"};
-    for (int at = 0; at < 2; ++at) {
-        const auto text = deliveredFile(names[at]);
+/// The two delivered lists of places.
+struct PlaceLists {
+    std::vector<Place> municipalities, states;
+};
+
+Result<PlaceLists> deliveredLists() {
+    PlaceLists lists;
+    const std::pair<QString, std::vector<Place>*> files[] = {{"dati/comuni.tsv", &lists.municipalities},
+                                                             {"dati/stati.tsv", &lists.states}};
+    for (const auto& [name, list] : files) {
+        const auto text = deliveredFile(name);
         if (!text) return text.error();
-        auto places = readPlaces(*text, QFileInfo(names[at]).fileName());
+        auto places = readPlaces(*text, QFileInfo(name).fileName());
         if (!places) return places.error();
-        read[at] = std::move(*places);
+        *list = std::move(*places);
     }
-    Result<> made =
-        layDatabase(database, [&](const QString& companion) { return makePlaces(companion, read[0], read[1]); });
-    return made ? lay(list, namesInForce(read[0])) : made;
+    return lists;
+}
+
+Result<> layPlaces(const QString& path, const PlaceLists& lists) {
+    return layDatabase(
+        path, [&](const QString& companion) { return makePlaces(companion, lists.municipalities, lists.states); });
+}
+
+Result<> layPlacesAndNames(const QString& root) {
+    const QString database = root + "/Stampe/Comuni.mdb";
+    const QString names = root + "/Params/Comuni.dat";
+    if (QFile::exists(asOnDisk(database)) && QFile::exists(asOnDisk(names))) return {};
+    const auto lists = deliveredLists();
+    if (!lists) return lists.error();
+    const Result<> made = layPlaces(database, *lists);
+    return made ? lay(names, namesInForce(lists->municipalities)) : made;
 }
 
 }  // namespace
@@ -93,7 +111,17 @@ Result<> layInstallation(const std::string& rootName) {
     }
     if (Result<> layouts = layLayouts(root); !layouts) return layouts;
     const Result<> staging = layDatabase(root + "/Stampe/dbStampa.mdb", makeStagingDatabase);
-    return staging ? layPlaces(root) : staging;
+    return staging ? layPlacesAndNames(root) : staging;
+}
+
+Result<DeliveredPlaces> layDeliveredPlaces(const std::string& rootName) {
+    bringInDeliveredFiles();
+    const QString path = asOnDisk(QString::fromStdString(rootName) + "/Stampe/Comuni consegnati.mdb");
+    if (QFile::exists(path)) return DeliveredPlaces{path.toStdString(), false};
+    const auto lists = deliveredLists();
+    if (!lists) return lists.error();
+    if (const Result<> made = layPlaces(path, *lists); !made) return made.error();
+    return DeliveredPlaces{path.toStdString(), true};
 }
 
 }  // namespace vorbano

@@ -12,4 +12,14 @@ namespace vorbano {
 /// so none is ever found half done. Fails with the file that could not be written.
 Result<> layInstallation(const std::string& root);
 
+/// The delivered list of places under a name of its own.
+struct DeliveredPlaces {
+    std::string path;    ///< UTF-8
+    bool isNew = false;  ///< it was made just now
+};
+
+/// Lays the delivered list of places beside "Stampe/Comuni.mdb", for the office whose own list cannot be read on this
+/// machine; one that is there already stays as it is.
+Result<DeliveredPlaces> layDeliveredPlaces(const std::string& root);
+
 }  // namespace vorbano

@@ -16,7 +16,7 @@ enum class DatabaseKind : std::uint8_t {
     missing,     ///< no such file
     unreadable,  ///< it is there and cannot be opened, or is a folder
     ours,        ///< one that this program can use
-    older,       ///< the format of an older installation, which is recognised and not read
+    older,       ///< the format of an older installation; a list of places in it is read by OlderPlaces
     foreign,     ///< anything else
 };
 
