@@ -29,11 +29,12 @@ class PlacesChoice : public ::testing::Test {
     }
     void carryOverOlderList() const { write(list_, older_); }
     void expectBox() {
-        desktop_.box("Vorbano",
-                     "Il file Stampe/Comuni.mdb, l'elenco dei comuni e degli stati per il codice fiscale, viene da "
-                     "un'installazione precedente e su questo computer non può essere letto: manca il driver di "
-                     "Microsoft Access, o il file è danneggiato.\n\nAl suo posto il programma usa l'elenco consegnato, "
-                     "che ha messo nel file Stampe/Comuni consegnati.mdb. Nel file precedente niente è stato cambiato.");
+        desktop_.box(
+            "Vorbano",
+            "Il file Stampe/Comuni.mdb, l'elenco dei comuni e degli stati per il codice fiscale, viene da "
+            "un'installazione precedente e su questo computer non può essere letto: manca il driver di "
+            "Microsoft Access, o il file è danneggiato.\n\nAl suo posto il programma usa l'elenco consegnato, "
+            "che ha messo nel file Stampe/Comuni consegnati.mdb. Nel file precedente niente è stato cambiato.");
     }
     std::unique_ptr<Database> choose(const OpensOlder& opensOlder) {
         return choosePlaces(root_.string(), desktop_, opensOlder);
@@ -98,10 +99,8 @@ TEST_F(PlacesChoice, TakesTheDeliveredListWhereTheDriverCannotReadTheFile) {
         std::vector<TableInfo> tables;
     };
     const std::vector<TableInfo> all = placeTables();
-    const Damage damages[] = {{"no table", {}},
-                              {"no states", {all[0]}},
-                              {"no municipalities", {all[1]}},
-                              {"an empty list", all}};
+    const Damage damages[] = {
+        {"no table", {}}, {"no states", {all[0]}}, {"no municipalities", {all[1]}}, {"an empty list", all}};
     carryOverOlderList();
     for (const Damage& damage : damages) {
         SCOPED_TRACE(damage.what);

@@ -70,7 +70,7 @@ TEST(PlainDocument, LinesTooManyForOneSheetGoOnOnTheNext) {
     for (const std::string& line : page.lines) EXPECT_NE(all.find(line + "\n"), std::string::npos) << line;
 }
 
-class NotedPrinter : public Printer {
+class PagePrinter : public Printer {
   public:
     Result<> print(Document& document, std::string_view title) override {
         titles.emplace_back(title);
@@ -85,7 +85,7 @@ class NotedPrinter : public Printer {
 class PlainPagePrinting : public ReportDesk {
   protected:
     QtRenderer renderer_{database_, sourceOf({})};
-    NotedPrinter printer_;
+    PagePrinter printer_;
     QtPrintEngine engine_{renderer_, printer_, [] { return nullptr; }};
 };
 
