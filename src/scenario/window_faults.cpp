@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -71,6 +72,12 @@ bool isCut(const QLineEdit& line) {
            line.fontMetrics().horizontalAdvance(line.text()) + around > line.width();
 }
 
+/// The words of a bar have the room inside its frame.
+bool isCut(const QProgressBar& bar) {
+    constexpr int frame = 4;
+    return bar.fontMetrics().horizontalAdvance(bar.text()) + frame > bar.width();
+}
+
 void addCut(const QWidget& content, Faults& faults) {
     for (const QLabel* label : content.findChildren<QLabel*>()) {
         if (label->isVisible() && isCut(*label)) faults.push_back("cut off: " + named(*label, label->text()));
@@ -82,6 +89,9 @@ void addCut(const QWidget& content, Faults& faults) {
     }
     for (const QLineEdit* line : content.findChildren<QLineEdit*>()) {
         if (line->isVisible() && isCut(*line)) faults.push_back("cut off: " + named(*line, line->text()));
+    }
+    for (const QProgressBar* bar : content.findChildren<QProgressBar*>()) {
+        if (bar->isVisible() && isCut(*bar)) faults.push_back("cut off: " + named(*bar, bar->text()));
     }
     for (const QGroupBox* box : content.findChildren<QGroupBox*>()) {
         if (box->isVisible() && isCut(*box)) faults.push_back("cut off: " + named(*box, box->title()));

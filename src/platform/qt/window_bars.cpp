@@ -22,6 +22,13 @@ int hoursIn(const Control& control) {
     return isNumber ? static_cast<int>(std::trunc(std::clamp(hours, -most, most))) : 0;
 }
 
+/// Words longer than the bar make it wider; it keeps that width, so that nothing beside it moves to and fro.
+void makeRoomForWords(QProgressBar& bar) {
+    constexpr int around = 8;  // frame, and a little air
+    const int needed = bar.fontMetrics().horizontalAdvance(bar.text()) + around;
+    if (needed > bar.minimumWidth()) bar.setMinimumWidth(needed);
+}
+
 }  // namespace
 
 const Control* WindowBars::source(const Form& form, const QProgressBar& bar, const char* property) {
@@ -55,6 +62,7 @@ void WindowBars::draw(const Bar& bar) {
     const bool idle = maximum <= 0 && value <= 0;
     bar.widget->setFormat(idle ? QString() : QStringLiteral("%1 di %2 ore").arg(value).arg(maximum));
     setStyleMark(*bar.widget, "tone", value > maximum ? QStringLiteral("over") : QStringLiteral("plain"));
+    makeRoomForWords(*bar.widget);
     // A flag without a widget never shows, and says nothing about the bar.
     bar.widget->setVisible(!bar.value->hasWidget() || isMeantToShow(*bar.value));
 }

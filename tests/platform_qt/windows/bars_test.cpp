@@ -52,6 +52,17 @@ TEST_F(Bars, HoursWithoutAPoolAreTooMany) {
     EXPECT_EQ(bar().property("tone"), "over");
 }
 
+TEST_F(Bars, GrowsWithItsWordsAndStaysAsWide) {
+    const auto wordsWidth = [this] { return bar().fontMetrics().horizontalAdvance(bar().text()); };
+    screen.txtMonte.text = "15000";
+    screen.txtOre.text = "15001";
+    ASSERT_EQ(bar().text(), "15001 di 15000 ore");
+    const int widest = bar().minimumWidth();
+    EXPECT_GT(widest, wordsWidth()) << "in the heavier letters of a pool that is exceeded";
+    screen.txtOre.text = "1";
+    EXPECT_EQ(bar().minimumWidth(), widest);
+}
+
 TEST_F(Bars, ABarShowsWithItsNumber) {
     screen.txtOre.visible = false;
     EXPECT_FALSE(bar().isVisible());
