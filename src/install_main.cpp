@@ -3,7 +3,6 @@
 
 #include <QApplication>
 #include <cstdio>
-#include <cstring>
 
 #include "platform/qt/installation.h"
 #include "platform/qt/qt_desktop.h"
@@ -31,7 +30,8 @@ int lay(const std::string& root, bool inWindow) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const bool inWindow = argc > 1 && std::strcmp(argv[1], "--window") == 0;
+    const auto words = vorbano::arguments(argc, argv);
+    const bool inWindow = !words.empty() && words.front() == "--window";
     const std::string root = vorbano::utf8(vorbano::installationRoot());
     if (inWindow) {
         const QApplication application(argc, argv);

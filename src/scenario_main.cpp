@@ -10,6 +10,7 @@
 #include "scenario/quiet_screen.h"
 #include "scenario/theatre.h"
 #include "scenario/unseen_screen.h"
+#include "storage/system_text.h"
 
 namespace {
 
@@ -17,12 +18,15 @@ using vorbano::Orders;
 
 bool isUnseen(const QByteArray& platform) { return platform.startsWith("offscreen") || platform.startsWith("minimal"); }
 
-bool hasDisplay() {
 #if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
-    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+constexpr bool alwaysHasDisplay = false;
 #else
-    return true;
+constexpr bool alwaysHasDisplay = true;
 #endif
+
+bool hasDisplay() {
+    return alwaysHasDisplay || !qEnvironmentVariableIsEmpty("DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
 int misused(const std::string& why) {
@@ -49,8 +53,7 @@ int play(const Orders& orders) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const std::vector<std::string> words(argv + 1, argv + argc);
-    const auto orders = vorbano::readOrders(words);
+    const auto orders = vorbano::readOrders(vorbano::arguments(argc, argv));
     if (!orders) return misused({});
     if (orders->help) {
         std::fputs(vorbano::usage().data(), stdout);
@@ -59,7 +62,7 @@ int main(int argc, char** argv) {
     const bool unseen = !hasDisplay() || isUnseen(qgetenv("QT_QPA_PLATFORM"));
     if (orders->watch && unseen) return misused("--watch needs a display.\n");
     // The bare forms need no window, but documents are made all the same, and making them needs fonts.
-    if (!orders->window || unseen) vorbano::useUnseenScreen();
+    if (unseen || (!orders->window && !alwaysHasDisplay)) vorbano::useUnseenScreen();
     vorbano::quietenUnseenScreen();
     QApplication application(argc, argv);
     vorbano::applyStyle(application);

@@ -23,7 +23,9 @@ QByteArray screenDescription() {
 void useUnseenScreen() {
     // The platform reads the file when the application starts; it goes away with the process.
     static QTemporaryFile description(QDir::tempPath() + "/vorbano-schermo-XXXXXX.json");
-    if (!description.open() || description.write(screenDescription()) < 0 || !description.flush()) {
+    // A colon ends the name of the file, which so cannot lie on a drive.
+    const bool named = !description.fileTemplate().contains(':');
+    if (!named || !description.open() || description.write(screenDescription()) < 0 || !description.flush()) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         return;
     }

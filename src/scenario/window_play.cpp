@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QProgressDialog>
 #include <QTimerEvent>
+#include <QWindow>
 
 #include "platform/qt/form_window.h"
 #include "platform/qt/preview_window.h"
@@ -126,9 +127,16 @@ class Steps : public QObject {
         }
     }
 
+    /// A real screen shows a window a moment after it was asked to, and takes what is clicked before for nothing.
+    static bool isOnScreen(const QWidget& window) {
+        const QWindow* handle = window.windowHandle();
+        return handle != nullptr && handle->isExposed();
+    }
+
     /// The gesture before is still on its way, and nothing new lies on top yet.
     [[nodiscard]] bool mustWait(QWidget* modal) const {
         if (leaving_ || qobject_cast<QProgressDialog*>(modal) != nullptr) return true;
+        if (modal != nullptr && !isOnScreen(*modal)) return true;
         if (modal != nullptr && qobject_cast<FormWindow*>(modal) == nullptr) return inDialog_;
         const Form* front = desktop_.front();
         if (front == nullptr || !front->isOpen() || desktop_.windowOf(*front) == nullptr) return true;

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace vorbano {
 
@@ -16,5 +17,8 @@ namespace vorbano {
 
 /// A variable of the environment; nothing when it is not set or empty.
 [[nodiscard]] std::optional<std::string> setting(std::string_view name);
+
+/// The words that the program was called with, its own name left out.
+[[nodiscard]] std::vector<std::string> arguments(int argc, char** argv);
 
 }  // namespace vorbano

@@ -70,13 +70,11 @@ TEST_F(TariffFiles, AGradeWithAGIsFoundTrimmedOnBothSides) {
 
 TEST_F(TariffFiles, ADatedRowHoldsGradeDateOfEffectAndRates) {
     const std::string row = padded("    G    B6", 15) + "01/04/2008" + amount(11, 68) + amount(13, 20) + amount(15, 24);
-    auto file = RecordFile<DatedTariffRow>::open(files, "Params/PmDipc.dat");
-    ASSERT_TRUE(file.ok());
     DatedTariffRow written{};
     written.Grade = "    G    B6";
     written.Deco = "01/04/2008";
     written.rates = {cent(1168), cent(1320), cent(1524)};
-    ASSERT_THAT(file->write(2, written), Succeeds());
+    ASSERT_THAT(RecordFile<DatedTariffRow>::open(files, "Params/PmDipc.dat")->write(2, written), Succeeds());
     EXPECT_EQ(toHex(contentOf(files, "Params/PmDipc.dat")), toHex(nuls(49) + row));
 
     ASSERT_TRUE(lay(files, "Params/PmDipc.dat", row));
