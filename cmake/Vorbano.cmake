@@ -14,6 +14,10 @@ target_compile_options(vorbano_flags INTERFACE -fPIC)
 if(WIN32)
   target_compile_definitions(vorbano_flags INTERFACE UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0A00)
 endif()
+if(CMAKE_UNITY_BUILD)
+  # In one go with others a source looks like a header, whose types may not hold what is its own.
+  target_compile_options(vorbano_flags INTERFACE -Wno-subobject-linkage)
+endif()
 # Lets the compiler cache look through precompiled headers.
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
   target_compile_options(vorbano_flags INTERFACE -fpch-preprocess)

@@ -1,6 +1,7 @@
 ; The installer. makensis gets VERSION, DIST (the folder of what the clerk gets), ICON and OUTPUT.
 ; Programs go to "Vorbano"; the office's data lie in "Vorbanet", which neither an upgrade nor a removal touches.
 Unicode true
+Target amd64-unicode
 SetCompressor /SOLID lzma
 !include MUI2.nsh
 !include x64.nsh

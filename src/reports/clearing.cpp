@@ -27,7 +27,7 @@ constexpr std::array byRows = {Step{"Tabella3", Rows::all}, Step{"Tabella4", Row
                                Step{"Tabella10", Rows::first}};
 constexpr std::array stationTotals = {Step{"Tabella8", Rows::all}, Step{"Tabella5", Rows::first}};
 constexpr std::array stationMembers = {Step{"Tabella7", Rows::all}, Step{"Tabella5", Rows::first}};
-constexpr std::array statement = {Step{"Tabella9", Rows::first}, Step{"Tabella5", Rows::first}};
+constexpr std::array statementOnly = {Step{"Tabella9", Rows::first}, Step{"Tabella5", Rows::first}};
 constexpr std::array contributions = {Step{"Tabella3", Rows::dipendenti}, Step{"Tabella4", Rows::first},
                                       Step{"Tabella5", Rows::first},      Step{"Tabella6", Rows::first},
                                       Step{"Tabella10", Rows::first},     Step{"Tabella11", Rows::all},
@@ -41,7 +41,7 @@ constexpr std::array adjustmentPayments = {Step{"Tabella5", Rows::first}, Step{"
 
 /// In the order of `Clearing`.
 constexpr std::array<std::span<const Step>, 11> routines = {
-    byEmployees, byEmployees,        byRows, stationTotals, stationMembers, statement, contributions, paymentList,
+    byEmployees, byEmployees,        byRows, stationTotals, stationMembers, statementOnly, contributions, paymentList,
     paymentRows, adjustmentPayments, {}};
 
 Result<> take(Database& staging, const Step& step, int dipendenti) {

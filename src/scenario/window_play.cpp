@@ -127,21 +127,30 @@ class Steps : public QObject {
         }
     }
 
-    /// A real screen shows a window a moment after it was asked to, and takes what is clicked before for nothing.
-    static bool isOnScreen(const QWidget& window) {
+    /// Windows shows a window, and gives it the keyboard, a moment after it was asked to; what is clicked or typed
+    /// before is lost. Where another program keeps the keyboard, it is waited for once.
+    bool isAtHand(const QWidget& window) {
+        if (!waitsForKeyboard_) return true;
         const QWindow* handle = window.windowHandle();
-        return handle != nullptr && handle->isExposed();
+        if (handle == nullptr || !handle->isExposed()) return false;
+        constexpr int longEnough = 2000;  // steps
+        if (handle->isActive() || ++waited_ == longEnough) {
+            waitsForKeyboard_ = waited_ < longEnough;
+            waited_ = 0;
+            return true;
+        }
+        return false;
     }
 
     /// The gesture before is still on its way, and nothing new lies on top yet.
-    [[nodiscard]] bool mustWait(QWidget* modal) const {
+    [[nodiscard]] bool mustWait(QWidget* modal) {
         if (leaving_ || qobject_cast<QProgressDialog*>(modal) != nullptr) return true;
-        if (modal != nullptr && !isOnScreen(*modal)) return true;
-        if (modal != nullptr && qobject_cast<FormWindow*>(modal) == nullptr) return inDialog_;
+        if (modal != nullptr && qobject_cast<FormWindow*>(modal) == nullptr) return inDialog_ || !isAtHand(*modal);
         const Form* front = desktop_.front();
         if (front == nullptr || !front->isOpen() || desktop_.windowOf(*front) == nullptr) return true;
         if (modal != nullptr && modal != desktop_.windowOf(*front)) return true;
-        return inDialog_ || (!acting_.empty() && acting_.back() == front);
+        if (inDialog_ || (!acting_.empty() && acting_.back() == front)) return true;
+        return !isAtHand(*desktop_.windowOf(*front));
     }
 
     void act(QWidget* modal) {
@@ -230,6 +239,8 @@ class Steps : public QObject {
     /// A box or preview that was answered and is not yet gone.
     QPointer<QWidget> leaving_;
     bool inDialog_ = false;
+    bool waitsForKeyboard_ = QGuiApplication::platformName() == QLatin1String("windows");
+    int waited_ = 0;
 };
 
 }  // namespace
