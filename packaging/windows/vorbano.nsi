@@ -1,4 +1,5 @@
-; The installer. makensis gets VERSION, DIST (the folder of what the clerk gets), ICON and OUTPUT.
+; The installer. makensis gets VERSION, DIST (the folder of what the clerk gets), ICON, SIDE (the picture beside the first and
+; last page), REMOVED (what a removal deletes) and OUTPUT.
 ; Programs go to "Vorbano"; the office's data lie in "Vorbanet", which neither an upgrade nor a removal touches.
 Unicode true
 Target amd64-unicode
@@ -25,6 +26,7 @@ VIAddVersionKey "LegalCopyright" "Vorbano"
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${SIDE}"
 !define MUI_ABORTWARNING
 !define MUI_WELCOMEPAGE_TEXT "$Welcome"
 !define MUI_FINISHPAGE_TEXT "$Done"

@@ -17,7 +17,7 @@
 //   size = A4                      any name of a paper size that Qt knows
 //   orientation = landscape        or portrait
 //   margins = 12 10 12 10          left, top, right, bottom, in mm
-//   font = Liberation Sans, DejaVu Sans       the first of these that the machine has
+//   font = Liberation Sans, Arial, DejaVu Sans       the first of these that the machine has
 //   text = 12                      size of the text of html sections in px
 //   foot = IMPEGNO DI SPESA        at the left of every page's foot; "Pagina n di m" stands at the right
 //
