@@ -127,19 +127,21 @@ class Steps : public QObject {
         }
     }
 
-    /// Windows shows a window, and gives it the keyboard, a moment after it was asked to; what is clicked or typed
-    /// before is lost. Where another program keeps the keyboard, it is waited for once.
+    /// Windows shows a window, and gives it the keyboard, a moment after it was asked to, and may still take the
+    /// keyboard away and give it back; what is clicked or typed meanwhile is lost. Where another program keeps it, it
+    /// is waited for once.
     bool isAtHand(const QWidget& window) {
         if (!waitsForKeyboard_) return true;
         const QWindow* handle = window.windowHandle();
-        if (handle == nullptr || !handle->isExposed()) return false;
-        constexpr int longEnough = 2000;  // steps
-        if (handle->isActive() || ++waited_ == longEnough) {
-            waitsForKeyboard_ = waited_ < longEnough;
-            waited_ = 0;
-            return true;
-        }
-        return false;
+        const bool has = handle != nullptr && handle->isExposed() && QGuiApplication::focusWindow() == handle;
+        calm_ = has && handle == at_ ? calm_ + 1 : 0;
+        at_ = handle;
+        constexpr int longEnough = 100;  // steps of a millisecond
+        constexpr int tooLong = 5000;
+        if (calm_ < longEnough && ++waited_ < tooLong) return false;
+        waitsForKeyboard_ = waited_ < tooLong;
+        waited_ = 0;
+        return true;
     }
 
     /// The gesture before is still on its way, and nothing new lies on top yet.
@@ -240,6 +242,8 @@ class Steps : public QObject {
     QPointer<QWidget> leaving_;
     bool inDialog_ = false;
     bool waitsForKeyboard_ = QGuiApplication::platformName() == QLatin1String("windows");
+    const QWindow* at_ = nullptr;  ///< never looked into: it may be gone
+    int calm_ = 0;
     int waited_ = 0;
 };
 
