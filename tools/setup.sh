@@ -3,7 +3,7 @@
 
 packages=(
   git cmake ninja-build g++
-  qt6-base-dev libqt6sql6-sqlite libkainjow-mustache-dev
+  qt6-base-dev libfontconfig-dev libqt6sql6-sqlite libkainjow-mustache-dev
   libgtest-dev libgmock-dev libbenchmark-dev libsqlite3-dev
   clang-format clang-tidy
   fonts-dejavu-core fonts-liberation2 poppler-utils

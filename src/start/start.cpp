@@ -9,6 +9,7 @@
 #include "platform/qt/report_renderer.h"
 #include "platform/qt/sqlite_database.h"
 #include "platform/qt/style.h"
+#include "platform/qt/typefaces.h"
 #include "program/layouts.h"
 #include "program/program.h"
 #include "storage/disk_file_system.h"
@@ -17,6 +18,7 @@
 namespace vorbano {
 
 int runOnDesk(int argc, char** argv, const std::function<void()>& begun) {
+    const std::future<void> typefaces = readTypefaces();
     QApplication application(argc, argv);
     applyStyle(application);
     if (begun) begun();
@@ -24,6 +26,9 @@ int runOnDesk(int argc, char** argv, const std::function<void()>& begun) {
     const auto root = installationRoot();
     DiskFileSystem files(root);
     SqliteDatabase staging(utf8(root / "Stampe" / "dbStampa.mdb"));
+    // Opened while the typefaces are being read; the main window says what is wrong with it.
+    staging.check().ignore();
+    typefaces.wait();
     QtDesktop desktop;
     const auto places = choosePlaces(utf8(root), desktop);
     const auto above = [&desktop] { return desktop.frontWindow(); };
