@@ -67,6 +67,34 @@ class Box : public QMessageBox {
 
 }  // namespace
 
+class QtDesktop::Announced : public FormWatcher {
+  public:
+    Announced(Form& form, QtDesktop& desk) : form_(form), desk_(desk), comesFirst_(desk.front() == nullptr) {
+        form_.watchedBy(this);
+    }
+    ~Announced() override {
+        if (form_.watcher() == this) form_.watchedBy(nullptr);
+    }
+    /// No window was there yet: the first one, which comes meanwhile, keeps the keyboard.
+    [[nodiscard]] bool comesFirst() const { return comesFirst_; }
+
+    void controlChanged(Control& control, Aspect aspect) override {
+        (void)control;
+        (void)aspect;
+    }
+    void focusMoved() override {}
+    void captionChanged() override {}
+    void closed() override {
+        desk_.beside_ = nullptr;
+        desk_.announced_.reset();
+    }
+
+  private:
+    Form& form_;
+    QtDesktop& desk_;
+    bool comesFirst_;
+};
+
 QtDesktop::QtDesktop() {
     // Between two windows there may be none for a moment; that is not the end of the program.
     QGuiApplication::setQuitOnLastWindowClosed(false);
@@ -114,25 +142,36 @@ void QtDesktop::show(Form& form) {
 }
 
 void QtDesktop::showBeside(Form& form) {
-    if (form.isOpen() && windowOf(form) != nullptr) return;
+    if (beside() == &form) return;
     closeBeside();
-    QWidget* below = frontWindow();
+    beside_ = &form;
+    form.open();
+    announced_ = std::make_unique<Announced>(form, *this);
+    QMetaObject::invokeMethod(
+        &turn_, [this] { buildBeside(); }, Qt::QueuedConnection);
+}
+
+void QtDesktop::buildBeside() {
+    if (announced_ == nullptr) return;
+    const bool comesFirst = announced_->comesFirst();
+    announced_.reset();
+    Form& form = *beside_;
     auto* window = new FormWindow(form, nullptr, FormWindow::Place::beside);
     windows_[&form] = window;
-    beside_ = &form;
     QObject::connect(window, &FormWindow::shut, window, [this, window, &form] {
         windows_.erase(&form);
-        if (beside_ == &form) beside_ = nullptr;
+        beside_ = nullptr;
         window->deleteLater();
     });
+    QWidget* const below = frontWindow();
     if (below != nullptr) {
         // Belongs to the window in front, so that it stays above it and can be used beside it.
         window->winId();
         window->windowHandle()->setTransientParent(below->windowHandle());
     }
     place(*window, below);
-    form.open();
     window->show();
+    if (comesFirst && below != nullptr) below->activateWindow();
 }
 
 void QtDesktop::closeBeside() {
@@ -140,12 +179,15 @@ void QtDesktop::closeBeside() {
 }
 
 void QtDesktop::tell(const Message& message) {
+    // A box lies above what stands beside.
+    buildBeside();
     Box box(message, frontWindow());
     box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
     box.wait();
 }
 
 bool QtDesktop::ask(const Message& message) {
+    buildBeside();
     Box box(message, frontWindow());
     const QAbstractButton* yes = box.addButton(QStringLiteral("Sì"), QMessageBox::YesRole);
     QPushButton* no = box.addButton(QStringLiteral("No"), QMessageBox::NoRole);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QObject>
 #include <map>
 #include <memory>
 #include <optional>
@@ -30,7 +31,8 @@ class QtDesktop : public Desktop {
     void setToday(std::chrono::year_month_day today) { today_ = today; }
     /// The form in front; nullptr when none is on show.
     [[nodiscard]] Form* front() const { return forms_.front(); }
-    /// The form on show beside the others (the splash window); nullptr when none.
+    /// The form on show beside the others (the splash window); nullptr when none. Its window is built when the program
+    /// next waits for the clerk: one that closes before that, as at a start where nothing is asked, costs none.
     [[nodiscard]] Form* beside() const;
     /// The window that shows `form` now; nullptr when it is not on show.
     [[nodiscard]] FormWindow* windowOf(const Form& form) const;
@@ -39,10 +41,16 @@ class QtDesktop : public Desktop {
 
   private:
     void closeBeside();
+    void buildBeside();
 
     FormStack forms_;
     std::map<const Form*, FormWindow*> windows_;
     Form* beside_ = nullptr;
+    /// Follows the form beside as long as it has no window.
+    class Announced;
+    std::unique_ptr<Announced> announced_;
+    /// What is queued on it happens when the program next waits for the clerk.
+    QObject turn_;
     std::optional<std::chrono::year_month_day> today_;
 };
 

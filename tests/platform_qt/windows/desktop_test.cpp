@@ -116,13 +116,47 @@ TEST_F(Desk, AFormBesideLeavesTheOneInFrontUsable) {
     desk.show(main.form);
 }
 
+TEST_F(Desk, AFormBesideThatClosesBeforeTheClerkIsWaitedForNeverComesOnTheScreen) {
+    frmProva splash;
+    desk.showBeside(splash.form);
+    EXPECT_TRUE(splash.form.isOpen());
+    splash.form.close();
+    EXPECT_EQ(desk.beside(), nullptr);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(desk.windowOf(splash.form), nullptr);
+    desk.showBeside(splash.form);
+    desk.showBeside(upper.form);
+    EXPECT_FALSE(splash.form.isOpen());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(desk.windowOf(splash.form), nullptr);
+    EXPECT_TRUE(desk.windowOf(upper.form)->isVisible());
+}
+
+TEST_F(Desk, ABoxLiesAboveWhatStandsBeside) {
+    frmProva splash;
+    main.form.activated.calls([this, &splash] {
+        desk.showBeside(splash.form);
+        whenBoxComes(told, "OK");
+        desk.tell({"Inserire denominazione Ente", "Vorbano", vorbano::Icon::information});
+        EXPECT_TRUE(desk.windowOf(splash.form)->isVisible());
+    });
+    whenInFront(desk, main.form, [this, &splash] {
+        splash.form.close();
+        main.form.close();
+    });
+    desk.show(main.form);
+    EXPECT_THAT(told, ElementsAre("Vorbano: Inserire denominazione Ente"));
+}
+
 TEST_F(Desk, AFormBesideGoesAwayAtAKeyOrAPress) {
     frmProva splash;
     splash.Frame1.pressed.calls([&splash] { splash.form.close(); });
     desk.showBeside(splash.form);
+    QCoreApplication::processEvents();
     QTest::keyClick(desk.windowOf(splash.form), Qt::Key_Space);
     EXPECT_FALSE(splash.form.isOpen());
     desk.showBeside(splash.form);
+    QCoreApplication::processEvents();
     clickIn(splash.form, splash.Frame1);
     EXPECT_FALSE(splash.form.isOpen());
 }
@@ -132,6 +166,7 @@ TEST_F(Desk, AFormBesideAWindowCanBeUsedAboveIt) {
     splash.note(splash.cmdEsci.clicked, "cmdEsci clicked");
     whenInFront(desk, main.form, [this, &splash] {
         desk.showBeside(splash.form);
+        QCoreApplication::processEvents();
         clickIn(splash.form, splash.cmdEsci);
         EXPECT_THAT(splash.log, Contains("cmdEsci clicked"));
         EXPECT_EQ(desk.front(), &main.form);
