@@ -2,9 +2,11 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCursor>
 #include <QMessageBox>
 #include <QPointer>
 #include <QProgressDialog>
+#include <QScreen>
 #include <QTimerEvent>
 #include <QWindow>
 
@@ -94,16 +96,19 @@ QAbstractButton* buttonWith(const QMessageBox& box, Answer answer) {
 class Steps : public QObject {
   public:
     Steps(Player& player, const QtDesktop& desktop, const PlayedPrintEngine& printing, Pace pace)
-        : player_(player),
-          desktop_(desktop),
-          printing_(printing),
-          pause_(pace == Pace::slow ? slowPause : std::chrono::milliseconds::zero()) {
+        : player_(player), desktop_(desktop), printing_(printing), pause_(pace == Pace::slow ? slowPause : shortest()) {
         schedule(pause_);
     }
 
   private:
     static constexpr std::chrono::milliseconds slowPause{500};
     static constexpr std::chrono::milliseconds shortWait{1};
+
+    static bool isWindows() { return QGuiApplication::platformName() == QLatin1String("windows"); }
+
+    /// On Windows a timer of no time is an event like any other, and a chain of them would all be played before what
+    /// the window system has to say.
+    static std::chrono::milliseconds shortest() { return isWindows() ? shortWait : std::chrono::milliseconds::zero(); }
 
     void schedule(std::chrono::milliseconds pause) { startTimer(pause); }
 
@@ -128,15 +133,19 @@ class Steps : public QObject {
     }
 
     /// Windows shows a window, and gives it the keyboard, a moment after it was asked to, and may still take the
-    /// keyboard away and give it back; what is clicked or typed meanwhile is lost. Where another program keeps it, it
-    /// is waited for once.
+    /// keyboard away and give it back; what is clicked or typed meanwhile is lost. The splash window takes it from the
+    /// one that it stands beside. Where another program keeps it, it is waited for once.
     bool isAtHand(const QWidget& window) {
         if (!waitsForKeyboard_) return true;
+        const Form* beside = desktop_.beside();
+        const FormWindow* splash = beside == nullptr ? nullptr : desktop_.windowOf(*beside);
+        const QWindow* focused = QGuiApplication::focusWindow();
         const QWindow* handle = window.windowHandle();
-        const bool has = handle != nullptr && handle->isExposed() && QGuiApplication::focusWindow() == handle;
+        if (splash != nullptr && focused == splash->windowHandle()) handle = focused;
+        const bool has = handle != nullptr && handle->isExposed() && focused == handle;
         calm_ = has && handle == at_ ? calm_ + 1 : 0;
         at_ = handle;
-        constexpr int longEnough = 100;  // steps of a millisecond
+        constexpr int longEnough = 10;  // steps of a millisecond
         constexpr int tooLong = 5000;
         if (calm_ < longEnough && ++waited_ < tooLong) return false;
         waitsForKeyboard_ = waited_ < tooLong;
@@ -241,7 +250,7 @@ class Steps : public QObject {
     /// A box or preview that was answered and is not yet gone.
     QPointer<QWidget> leaving_;
     bool inDialog_ = false;
-    bool waitsForKeyboard_ = QGuiApplication::platformName() == QLatin1String("windows");
+    bool waitsForKeyboard_ = isWindows();
     const QWindow* at_ = nullptr;  ///< never looked into: it may be gone
     int calm_ = 0;
     int waited_ = 0;
@@ -252,6 +261,8 @@ class Steps : public QObject {
 std::string playInWindows(const Scenario& scenario, const Stage& stage, QtRenderer& renderer, const Start& start,
                           Pace pace) {
     if (!scenario.errors.empty()) return scenario.errors.front();
+    // The machine's own pointer would be a second hand: whatever comes to lie under it is told that it moves there.
+    if (const QScreen* screen = QGuiApplication::primaryScreen()) QCursor::setPos(screen->geometry().bottomRight());
     PlayedDesktop desktop;
     WindowHands hands(desktop);
     Player player(scenario, stage, hands);
