@@ -11,10 +11,10 @@ std::map<std::string, FormBuilder>& table() {
 
 }  // namespace
 
-bool buildForm(const std::string& name, QDialog& window) {
+bool buildForm(const std::string& name, QWidget& content) {
     const auto at = table().find(name);
     if (at == table().end()) return false;
-    at->second(window);
+    at->second(content);
     return true;
 }
 

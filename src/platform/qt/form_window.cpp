@@ -20,12 +20,25 @@
 
 namespace vorbano {
 
+namespace {
+
+/// Of a panel that scrolls inside the window: how much of it is out of sight from top to bottom, as when a bar that
+/// scrolls it sideways has come in under it.
+int hiddenHeight(const QWidget& content) {
+    int hidden = 0;
+    for (const QScrollArea* area : content.findChildren<QScrollArea*>()) {
+        if (area->isVisible()) hidden = std::max(hidden, area->verticalScrollBar()->maximum());
+    }
+    return hidden;
+}
+
+}  // namespace
+
 FormWindow::FormWindow(Form& form, QWidget* above) : FormWindow(form, above, above ? Place::above : Place::first) {}
 
 FormWindow::FormWindow(Form& form, QWidget* parent, Place place)
     : QDialog(parent), form_(form), operator_(form), place_(place) {
     build();
-    layOut();
     bind();
     form_.watchedBy(this);
     setWindowTitle(shown(form_.caption()));
@@ -48,10 +61,15 @@ void FormWindow::build() {
         setWindowFlags(kind | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint |
                        Qt::WindowCloseButtonHint);
     }
-    if (!buildForm(form_.name(), *this)) buildPlainWindow(form_, *this);
+    layOut();
+    if (!buildForm(form_.name(), *content_)) buildPlainWindow(form_, *content_);
     setObjectName(shown(form_.name()));
+    content_->setObjectName(QStringLiteral("content"));
+    setMinimumSize(content_->minimumSize());
+    content_->setMinimumSize(0, 0);
     menu_ = std::make_unique<WindowMenu>(form_, *this,
                                          [this](Control& control, const Gesture& gesture) { act(control, gesture); });
+    if (menu_->bar() != nullptr) layout()->setMenuBar(menu_->bar());
     bars_ = std::make_unique<WindowBars>(form_, *this);
     for (QPushButton* button : findChildren<QPushButton*>()) {
         const QString name = button->property("iconName").toString();
@@ -59,7 +77,8 @@ void FormWindow::build() {
     }
 }
 
-/// What the .ui laid into the window moves into an area that scrolls where the screen is too small for it.
+/// What the .ui holds stands in an area that scrolls where the screen is too small for it. It is built in its place:
+/// all that moves there later would be dressed twice.
 void FormWindow::layOut() {
     scroll_ = new QScrollArea(this);
     scroll_->setObjectName(QStringLiteral("scrollArea"));
@@ -67,14 +86,11 @@ void FormWindow::layOut() {
     scroll_->setWidgetResizable(true);
     scroll_->setFocusPolicy(Qt::NoFocus);
     content_ = new QWidget;
-    content_->setObjectName(QStringLiteral("content"));
-    if (QLayout* designed = layout()) content_->setLayout(designed);
     scroll_->setWidget(content_);
     content_->installEventFilter(this);
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(scroll_);
-    if (menu_->bar() != nullptr) whole->setMenuBar(menu_->bar());
 }
 
 QWidget* FormWindow::widgetOf(const Control& control) const {
@@ -123,7 +139,8 @@ void FormWindow::grow() {
         const int width = std::max(least.width(), scroll_->width());
         least.setHeight(std::max(least.height(), content_->heightForWidth(width)));
     }
-    const QSize lacking = (least - scroll_->size()).expandedTo({0, 0});
+    const int hidden = hiddenHeight(*content_);
+    const QSize lacking = (least - scroll_->size()).expandedTo({0, hidden});
     if (lacking.isNull()) return;
     const QRect desk = screen()->availableGeometry();
     QRect grown(geometry());

@@ -2,7 +2,7 @@
 
 // How to make the .ui of a screen (vorbano_form(frmX.ui) in the folder's CMakeLists.txt hands it in):
 //
-// * Class and object name of the top widget are the form's name (frmX), its class is QDialog. Its layout, and every
+// * Class and object name of the top widget are the form's name (frmX), its class is QWidget. Its layout, and every
 //   layout in it, is a real one; nothing has a fixed place or size. 1366 x 768 must be enough.
 // * For each control a widget of the same object name, accents included:
 //     TextBox QLineEdit, Label QLabel, Button QPushButton, CheckBox QCheckBox, Option QRadioButton, ComboBox QComboBox,

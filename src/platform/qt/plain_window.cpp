@@ -1,9 +1,9 @@
 #include "platform/qt/plain_window.h"
 
-#include <QDialog>
 #include <QGridLayout>
 #include <QLabel>
 #include <QTabWidget>
+#include <QWidget>
 #include <map>
 
 #include "platform/form.h"
@@ -15,7 +15,7 @@ namespace {
 
 class PlainWindow {
   public:
-    PlainWindow(const Form& form, QDialog& window) { layouts_[&form] = new QGridLayout(&window); }
+    PlainWindow(const Form& form, QWidget& content) { layouts_[&form] = new QGridLayout(&content); }
 
     void add(Control& control) {
         const WidgetBinding* binding = bindingOf(control.kind());
@@ -51,8 +51,8 @@ class PlainWindow {
 
 }  // namespace
 
-void buildPlainWindow(const Form& form, QDialog& window) {
-    PlainWindow plain(form, window);
+void buildPlainWindow(const Form& form, QWidget& content) {
+    PlainWindow plain(form, content);
     for (Control* control : form.controls()) plain.add(*control);
 }
 

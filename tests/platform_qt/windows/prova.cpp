@@ -36,5 +36,5 @@ void frmProva::note(vorbano::Event& event, const std::string& words) {
 }
 
 void addProva() {
-    vorbano::addForm("frmProva", [](QDialog& window) { Ui::frmProva().setupUi(&window); });
+    vorbano::addForm("frmProva", [](QWidget& content) { Ui::frmProva().setupUi(&content); });
 }
