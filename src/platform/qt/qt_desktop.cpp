@@ -98,6 +98,8 @@ class QtDesktop::Announced : public FormWatcher {
 QtDesktop::QtDesktop() {
     // Between two windows there may be none for a moment; that is not the end of the program.
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    turn_.setSingleShot(true);
+    QObject::connect(&turn_, &QTimer::timeout, &turn_, [this] { buildBeside(); });
 }
 
 QtDesktop::~QtDesktop() { closeBeside(); }
@@ -147,8 +149,7 @@ void QtDesktop::showBeside(Form& form) {
     beside_ = &form;
     form.open();
     announced_ = std::make_unique<Announced>(form, *this);
-    QMetaObject::invokeMethod(
-        &turn_, [this] { buildBeside(); }, Qt::QueuedConnection);
+    turn_.start();
 }
 
 void QtDesktop::buildBeside() {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QObject>
+#include <QTimer>
 #include <map>
 #include <memory>
 #include <optional>
@@ -49,8 +49,8 @@ class QtDesktop : public Desktop {
     /// Follows the form beside as long as it has no window.
     class Announced;
     std::unique_ptr<Announced> announced_;
-    /// What is queued on it happens when the program next waits for the clerk.
-    QObject turn_;
+    /// Runs out when the program next waits for the clerk.
+    QTimer turn_;
     std::optional<std::chrono::year_month_day> today_;
 };
 
