@@ -7,13 +7,9 @@
 #include <QTest>
 #include <algorithm>
 
-#include "platform/memory_database.h"
+#include "empty_office.h"
 #include "platform/qt/form_window.h"
-#include "platform/scripted_desktop.h"
-#include "platform/staging_tables.h"
-#include "program/program.h"
 #include "scenario/window_faults.h"
-#include "storage/memory_file_system.h"
 
 using namespace vorbano;
 
@@ -95,15 +91,8 @@ class KeyboardDesktop : public Desktop {
 }  // namespace
 
 TEST(EveryScreen, IsUsedWithTheKeyboardAloneOnASmallDesk) {
-    MemoryFileSystem files;
-    files.makeFolder("Params").ignore();
-    MemoryDatabase staging(stagingTables());
-    MemoryDatabase places{{}};
-    RecordingPrintEngine printing;
     KeyboardDesktop desktop;
-    Program program(files, desktop, staging, places, printing);
-    program.run();
-    for (const std::string& name : program.names()) program.open(name);
-    EXPECT_EQ(desktop.windows, 1 + static_cast<int>(program.names().size()));
+    const int screens = test::openEveryScreen(desktop);
+    EXPECT_EQ(desktop.windows, 1 + screens);
     EXPECT_GT(desktop.reached, 100);
 }

@@ -4,15 +4,11 @@
 #include <fstream>
 #include <iterator>
 
-#include "platform/memory_database.h"
-#include "platform/scripted_desktop.h"
-#include "platform/staging_tables.h"
-#include "program/program.h"
+#include "empty_office.h"
 #include "program/record_files.h"
 #include "records/payment_records.h"
 #include "records/station_records.h"
 #include "records/tariff_records.h"
-#include "storage/memory_file_system.h"
 
 namespace vorbano::test {
 
@@ -103,15 +99,8 @@ class ListingDesktop : public Desktop {
 };
 
 void listScreens(SurfaceList& list) {
-    MemoryFileSystem files;
-    files.makeFolder("Params").ignore();
-    MemoryDatabase staging(stagingTables());
-    MemoryDatabase places{{}};
-    RecordingPrintEngine printing;
     ListingDesktop desktop(list);
-    Program program(files, desktop, staging, places, printing);
-    program.run();
-    for (const std::string& name : program.names()) program.open(name);
+    test::openEveryScreen(desktop);
 }
 
 std::string contentOf(const fs::path& file) {

@@ -6,12 +6,8 @@
 #include <QCoreApplication>
 #include <QScrollArea>
 
-#include "platform/memory_database.h"
+#include "empty_office.h"
 #include "platform/qt/form_window.h"
-#include "platform/scripted_desktop.h"
-#include "platform/staging_tables.h"
-#include "program/program.h"
-#include "storage/memory_file_system.h"
 
 using namespace vorbano;
 
@@ -48,14 +44,7 @@ class WindowDesktop : public Desktop {
 }  // namespace
 
 TEST(EveryScreen, HasAWindowThatFitsItsControls) {
-    MemoryFileSystem files;
-    files.makeFolder("Params").ignore();
-    MemoryDatabase staging(stagingTables());
-    MemoryDatabase places{{}};
-    RecordingPrintEngine printing;
     WindowDesktop desktop;
-    Program program(files, desktop, staging, places, printing);
-    program.run();
-    for (const std::string& name : program.names()) program.open(name);
-    EXPECT_EQ(desktop.windows, 2 + static_cast<int>(program.names().size()));
+    const int screens = test::openEveryScreen(desktop);
+    EXPECT_EQ(desktop.windows, 2 + screens);
 }
