@@ -30,7 +30,7 @@ void place(QWidget& window, const QWidget* below) {
     QSize size = window.sizeHint();
     const int bar = window.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     if (size.height() > most.height()) size.rwidth() += bar;
-    size = size.expandedTo(window.minimumSizeHint()).boundedTo(most);
+    size = size.expandedTo(window.minimumSizeHint()).expandedTo(window.minimumSize()).boundedTo(most);
     const QPoint centre = below != nullptr && below->isVisible() ? below->geometry().center() : room.center();
     QRect geometry(QPoint(), size);
     geometry.moveCenter(centre);

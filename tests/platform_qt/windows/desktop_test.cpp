@@ -178,6 +178,17 @@ TEST_F(Desk, AFormBesideAWindowCanBeUsedAboveIt) {
     EXPECT_EQ(desk.beside(), nullptr);
 }
 
+TEST_F(Desk, TheMainWindowOpensInTheMiddleOfTheScreen) {
+    vorbano::Form first("Form1", "Vorbano");
+    whenInFront(desk, first, [this, &first] {
+        const QWidget& window = *desk.windowOf(first);
+        const QPoint off = window.geometry().center() - window.screen()->availableGeometry().center();
+        EXPECT_LE(off.manhattanLength(), 2);
+        first.close();
+    });
+    desk.show(first);
+}
+
 TEST_F(Desk, NoWindowIsLargerThanTheScreen) {
     frmProva many;
     std::vector<std::unique_ptr<vorbano::TextBox>> fields;
